@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Installs what the build, the tests and the screenshots need on Debian 12, skipping what is there.
+set -euo pipefail
+paquetes=(cmake ninja-build g++ clang libgtest-dev libbenchmark-dev qt6-base-dev qt6-base-dev-tools
+          libgl-dev fontconfig fonts-dejavu-core xvfb xauth)
+faltan=()
+for p in "${paquetes[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || faltan+=("$p")
+done
+if [ ${#faltan[@]} -gt 0 ]; then
+    export DEBIAN_FRONTEND=noninteractive
+    apt-get update -qq
+    apt-get install -y -qq --no-install-recommends "${faltan[@]}"
+fi

@@ -1,0 +1,24 @@
+#include "core/core/dialogos.h"
+
+#include "core/core/error_ejecucion.h"
+#include "core/core/sesion.h"
+
+#include <utility>
+
+namespace vadro {
+
+std::string MostrarDialogoArchivo(const PeticionDialogo& peticion) {
+    auto& funcion = SesionActual().servicios.dialogos;
+    // Without a service there is nobody to choose: the same as a cancel.
+    std::optional<std::string> ruta = funcion ? funcion(peticion) : std::nullopt;
+    if (!ruta) {
+        throw ErrorEjecucion(ErrCancelar);
+    }
+    return *ruta;
+}
+
+FuncionDialogos InstalarDialogos(FuncionDialogos funcion) {
+    return std::exchange(SesionActual().servicios.dialogos, std::move(funcion));
+}
+
+} // namespace vadro

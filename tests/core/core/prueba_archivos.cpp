@@ -1,0 +1,89 @@
+#include "core/core/archivos.h"
+#include "core/core/codigo_pagina.h"
+#include "core/core/directorio_programa.h"
+#include "core/core/error_ejecucion.h"
+#include "soporte/prueba_sesion.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace vadro {
+namespace {
+
+class Archivos : public pruebas::PruebaSesion {};
+
+TEST(CodigoPagina, AllCodesRoundTripThroughUtf8) {
+    std::string todos;
+    for (int c = 0; c < 256; ++c) {
+        todos += static_cast<char>(c);
+    }
+    const std::string utf8 = DesdeOchoBits(todos);
+    EXPECT_EQ(AOchoBits(utf8), todos);
+    EXPECT_EQ(DesdeOchoBits("\x80\xF1\x9F" ""), "€ñŸ");
+    EXPECT_EQ(AOchoBits("Año €"), "A\xF1o \x80" "");
+    EXPECT_EQ(AOchoBits("ő✓"), "??") << "characters the page lacks";
+    EXPECT_EQ(AOchoBits("\xC3"), "?") << "a broken sequence";
+}
+
+TEST(Lineas, EveryLineEndCountsOnce) {
+    using V = std::vector<std::string>;
+    EXPECT_EQ(DividirLineas("a\r\nb\rc\nd"), (V{"a", "b", "c", "d"}));
+    EXPECT_EQ(DividirLineas("a\r\n\r\n"), (V{"a", ""}));
+    EXPECT_EQ(DividirLineas("\n\r"), (V{"", ""}));
+    EXPECT_EQ(DividirLineas(""), V{});
+    EXPECT_EQ(UnirLineas({"a", ""}), "a\r\n\r\n");
+}
+
+TEST_F(Archivos, AFailedWriteLeavesThePreviousFileIntact) {
+    const std::string ruta = Ruta("modelo.vdm");
+    Escribir(ruta, "antes");
+    sesion().servicios.durante_escritura = [](const std::string&) { throw ErrorEjecucion(ErrDiscoLleno); };
+    EXPECT_THROW(EscribirArchivo(ruta, "despues"), ErrorEjecucion);
+    EXPECT_EQ(Contenido(ruta), "antes");
+    sesion().servicios.durante_escritura = nullptr;
+    EscribirArchivo(ruta, "despues");
+    EXPECT_EQ(Contenido(ruta), "despues");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Directorio()), {}), 1)
+        << "no temporary file stays behind";
+}
+
+TEST_F(Archivos, FailuresAreRuntimeErrors) {
+    try {
+        (void)LeerArchivo(Ruta("no-esta.vdm"));
+        FAIL();
+    } catch (const ErrorEjecucion& e) {
+        EXPECT_EQ(e.Numero(), ErrArchivoNoEncontrado);
+    }
+    try {
+        EscribirArchivo(Ruta("no-existe/modelo.vdm"), "x");
+        FAIL();
+    } catch (const ErrorEjecucion& e) {
+        EXPECT_EQ(e.Numero(), ErrRutaNoEncontrada);
+    }
+}
+
+TEST_F(Archivos, PathsAcceptBothSeparators) {
+    EXPECT_EQ(NormalizarRuta("a\\b/c"), "a/b/c");
+    EXPECT_EQ(UnirRuta("a\\b", "Config.ini"), "a/b/Config.ini");
+    EXPECT_EQ(UnirRuta("a/", "x"), "a/x");
+    Escribir(Ruta("x.txt"), "1");
+    EXPECT_TRUE(ExisteArchivo(Directorio() + "\\x.txt"));
+}
+
+TEST_F(Archivos, TheProgramDirectoryFollowsVadroDirThenTheExecutableFolder) {
+    EXPECT_EQ(ResolverDirectorioPrograma("/ninguna"), Directorio());
+    ::unsetenv("VADRO_DIR");
+    const std::string ejecutable = Ruta("bin");
+    std::filesystem::create_directories(ejecutable);
+    EXPECT_EQ(ResolverDirectorioPrograma(ejecutable), ejecutable);
+    ::setenv("HOME", Directorio().c_str(), 1);
+    ::unsetenv("XDG_DATA_HOME");
+    const std::string datos = ResolverDirectorioPrograma(Ruta("no-existe"));
+    EXPECT_EQ(datos, Ruta(".local/share/VADRO Programador"));
+    EXPECT_TRUE(std::filesystem::is_directory(datos));
+}
+
+} // namespace
+} // namespace vadro

@@ -1,0 +1,3 @@
+// Compiled with the core's include path only: it must fail, because the core has no Qt.
+#include "core/core/registros.h"
+#include <QString>

@@ -1,0 +1,40 @@
+#include "soporte/guion_dialogos.h"
+
+#include <gtest/gtest.h>
+
+namespace vadro::pruebas {
+
+GuionDialogos::GuionDialogos() {
+    anterior_ = InstalarDialogos([this](const PeticionDialogo& p) { return Responder(p); });
+}
+
+GuionDialogos::~GuionDialogos() {
+    InstalarDialogos(std::move(anterior_));
+    for (const auto& falta : esperados_) {
+        ADD_FAILURE() << "Expected file dialog never shown: " << falta.titulo;
+    }
+}
+
+GuionDialogos& GuionDialogos::Elegir(const std::string& titulo, const std::string& ruta) {
+    esperados_.push_back({titulo, ruta});
+    return *this;
+}
+
+GuionDialogos& GuionDialogos::Cancelar(const std::string& titulo) {
+    esperados_.push_back({titulo, std::nullopt});
+    return *this;
+}
+
+std::optional<std::string> GuionDialogos::Responder(const PeticionDialogo& peticion) {
+    peticiones_.push_back(peticion);
+    if (esperados_.empty()) {
+        ADD_FAILURE() << "Unexpected file dialog: " << peticion.titulo;
+        return std::nullopt;
+    }
+    Esperado esperado = std::move(esperados_.front());
+    esperados_.pop_front();
+    EXPECT_EQ(peticion.titulo, esperado.titulo);
+    return esperado.ruta;
+}
+
+} // namespace vadro::pruebas
