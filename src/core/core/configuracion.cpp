@@ -9,14 +9,15 @@ namespace {
 
 const std::string kFalta = "-1";
 
-std::string LeerDirectorio(const Sesion& sesion, const std::string& clave) {
-    const std::string valor = LeerIni(kSeccionDirectorios, clave, RutaConfiguracion(sesion)).Texto();
+std::string LeerDirectorio(const Sesion &sesion, const std::string &clave) {
+    const std::string valor =
+        LeerIni(kSeccionDirectorios, clave, RutaConfiguracion(sesion)).Texto();
     return valor == kFalta ? std::string() : valor;
 }
 
 // A display key is true unless it says false; a true value is written back, so that the file
 // of a first start holds the key.
-bool LeerMostrar(const Sesion& sesion, const std::string& clave) {
+bool LeerMostrar(const Sesion &sesion, const std::string &clave) {
     const std::string valor = LeerIni(kSeccionGeneral, clave, RutaConfiguracion(sesion)).Texto();
     if (!BooleanoConfiguracion(valor)) {
         return false;
@@ -27,16 +28,20 @@ bool LeerMostrar(const Sesion& sesion, const std::string& clave) {
 
 } // namespace
 
-std::string RutaConfiguracion(const Sesion& sesion) {
+std::string RutaConfiguracion(const Sesion &sesion) {
     return UnirRuta(sesion.DirectorioPrograma, "Config.ini");
 }
 
-std::string TextoBooleano(bool valor) { return valor ? "Verdadero" : "Falso"; }
+std::string TextoBooleano(bool valor) {
+    return valor ? "Verdadero" : "Falso";
+}
 
-bool BooleanoConfiguracion(const std::string& texto) { return texto != "False" && texto != "Falso"; }
+bool BooleanoConfiguracion(const std::string &texto) {
+    return texto != "False" && texto != "Falso";
+}
 
-void CargarConfiguracion(Sesion& sesion) {
-    Configuracion& c = sesion.configuracion;
+void CargarConfiguracion(Sesion &sesion) {
+    Configuracion &c = sesion.configuracion;
     c.DirProyectos = LeerDirectorio(sesion, kClaveProyectos);
     c.DirModelos = LeerDirectorio(sesion, kClaveModelos);
     c.DirRequerimientos = LeerDirectorio(sesion, kClaveRequerimientos);
@@ -46,7 +51,8 @@ void CargarConfiguracion(Sesion& sesion) {
     c.MostrarInicio = LeerMostrar(sesion, kClaveMostrarInicio);
     c.MostrarAvisoBeta = LeerMostrar(sesion, kClaveMostrarAvisoBeta);
 
-    const double tamano = LeerIni(kSeccionGeneral, kClaveTamanoFuente, RutaConfiguracion(sesion)).Numero();
+    const double tamano =
+        LeerIni(kSeccionGeneral, kClaveTamanoFuente, RutaConfiguracion(sesion)).Numero();
     if (tamano == -1) {
         c.TamanoFuente = 0;
         EscribirConfiguracion(sesion, kSeccionGeneral, kClaveTamanoFuente, "0");
@@ -55,22 +61,22 @@ void CargarConfiguracion(Sesion& sesion) {
     }
 }
 
-void EscribirConfiguracion(const Sesion& sesion, const std::string& seccion,
-                           const std::string& clave, const std::string& valor) {
+void EscribirConfiguracion(const Sesion &sesion, const std::string &seccion,
+                           const std::string &clave, const std::string &valor) {
     EscribirIni(seccion, clave, valor, RutaConfiguracion(sesion));
 }
 
-void GuardarMostrarInicio(Sesion& sesion, bool mostrar) {
+void GuardarMostrarInicio(Sesion &sesion, bool mostrar) {
     sesion.configuracion.MostrarInicio = mostrar;
     EscribirConfiguracion(sesion, kSeccionGeneral, kClaveMostrarInicio, TextoBooleano(mostrar));
 }
 
-void GuardarMostrarAvisoBeta(Sesion& sesion, bool mostrar) {
+void GuardarMostrarAvisoBeta(Sesion &sesion, bool mostrar) {
     sesion.configuracion.MostrarAvisoBeta = mostrar;
     EscribirConfiguracion(sesion, kSeccionGeneral, kClaveMostrarAvisoBeta, TextoBooleano(mostrar));
 }
 
-void GuardarTamanoFuente(Sesion& sesion, int32_t tamano) {
+void GuardarTamanoFuente(Sesion &sesion, int32_t tamano) {
     sesion.configuracion.TamanoFuente = tamano;
     EscribirConfiguracion(sesion, kSeccionGeneral, kClaveTamanoFuente, std::to_string(tamano));
 }

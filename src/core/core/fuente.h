@@ -20,6 +20,8 @@ struct MedidaFuente {
 MedidaFuente MedidasFuente(ClaseControl clase, int tamanoFuente);
 
 // Twips are a fifteenth of a pixel at the usual 96 dots per inch.
-constexpr int TwipsAPixeles(int twips) { return twips / 15; }
+constexpr int TwipsAPixeles(int twips) {
+    return twips / 15;
+}
 
 } // namespace vadro

@@ -11,12 +11,12 @@
 namespace vadro {
 
 bool ValorLibre::EsVacio() const {
-    const auto* texto = std::get_if<std::string>(&valor_);
+    const auto *texto = std::get_if<std::string>(&valor_);
     return texto != nullptr && texto->empty();
 }
 
 double ValorLibre::Numero() const {
-    if (const auto* numero = std::get_if<double>(&valor_)) {
+    if (const auto *numero = std::get_if<double>(&valor_)) {
         return *numero;
     }
     const auto leido = LeerNumero(std::get<std::string>(valor_));
@@ -27,22 +27,28 @@ double ValorLibre::Numero() const {
 }
 
 std::string ValorLibre::Texto() const {
-    if (const auto* numero = std::get_if<double>(&valor_)) {
+    if (const auto *numero = std::get_if<double>(&valor_)) {
         return TextoNumero(*numero);
     }
     return std::get<std::string>(valor_);
 }
 
-int ValorLibre::Cuenta() const { return EsVacio() ? 0 : AEntero16(*this); }
+int ValorLibre::Cuenta() const {
+    return EsVacio() ? 0 : AEntero16(*this);
+}
 
 namespace {
 
-bool EsBlanco(char c) { return c == ' ' || c == '\t'; }
+bool EsBlanco(char c) {
+    return c == ' ' || c == '\t';
+}
 
-bool EsDigito(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
+bool EsDigito(char c) {
+    return std::isdigit(static_cast<unsigned char>(c)) != 0;
+}
 
 // Collects the digits at position i into the buffer, and says how many it took.
-std::size_t TomarDigitos(std::string_view texto, std::size_t& i, std::string& destino) {
+std::size_t TomarDigitos(std::string_view texto, std::size_t &i, std::string &destino) {
     std::size_t tomados = 0;
     while (i < texto.size() && EsDigito(texto[i])) {
         destino += texto[i++];
@@ -119,9 +125,17 @@ template <typename Entero> Entero RedondearEntero(double numero) {
 
 } // namespace
 
-int16_t AEntero16(double numero) { return RedondearEntero<int16_t>(numero); }
-int32_t AEntero32(double numero) { return RedondearEntero<int32_t>(numero); }
-int16_t AEntero16(const ValorLibre& valor) { return AEntero16(valor.Numero()); }
-int32_t AEntero32(const ValorLibre& valor) { return AEntero32(valor.Numero()); }
+int16_t AEntero16(double numero) {
+    return RedondearEntero<int16_t>(numero);
+}
+int32_t AEntero32(double numero) {
+    return RedondearEntero<int32_t>(numero);
+}
+int16_t AEntero16(const ValorLibre &valor) {
+    return AEntero16(valor.Numero());
+}
+int32_t AEntero32(const ValorLibre &valor) {
+    return AEntero32(valor.Numero());
+}
 
 } // namespace vadro

@@ -10,12 +10,12 @@ namespace vadro {
 ArchivoEntrada::ArchivoEntrada(std::vector<std::string> lineasOchoBits, std::string temporal)
     : lineas_(std::move(lineasOchoBits)), temporal_(std::move(temporal)) {}
 
-ArchivoEntrada ArchivoEntrada::Abrir(const std::string& ruta) {
+ArchivoEntrada ArchivoEntrada::Abrir(const std::string &ruta) {
     const std::string temporal = RecuperarArchivo(ruta);
     return ArchivoEntrada(DividirLineas(LeerArchivo(temporal)), temporal);
 }
 
-const std::string& ArchivoEntrada::LeerLinea() {
+const std::string &ArchivoEntrada::LeerLinea() {
     if (FinArchivo()) {
         throw ErrorEjecucion(ErrFinArchivo);
     }
@@ -31,12 +31,12 @@ void ArchivoEntrada::BorrarTemporal() {
 
 namespace {
 
-bool Contiene(const std::string& linea, const std::string& texto) {
+bool Contiene(const std::string &linea, const std::string &texto) {
     return linea.find(texto) != std::string::npos;
 }
 
 // The key part of a line: the text before its first "=", without the blank in front of it.
-std::string ParteClave(const std::string& linea) {
+std::string ParteClave(const std::string &linea) {
     std::string parte = linea.substr(0, linea.find('='));
     if (!parte.empty() && parte.back() == ' ') {
         parte.pop_back();
@@ -44,7 +44,7 @@ std::string ParteClave(const std::string& linea) {
     return parte;
 }
 
-std::string RecortarBlancos(const std::string& texto) {
+std::string RecortarBlancos(const std::string &texto) {
     const auto inicio = texto.find_first_not_of(' ');
     if (inicio == std::string::npos) {
         return {};
@@ -52,9 +52,9 @@ std::string RecortarBlancos(const std::string& texto) {
     return texto.substr(inicio, texto.find_last_not_of(' ') - inicio + 1);
 }
 
-// What follows the last "=" of the line, the very last character left unexamined, without
-// the character after the "=".
-std::string ValorDeLinea(const std::string& linea) {
+// What follows the last "=" of the line, the very last character left unexamined, trimmed:
+// so "a=b" reads "b", and a value ending in "=" keeps it.
+std::string ValorDeLinea(const std::string &linea) {
     if (linea.size() < 2) {
         return {};
     }
@@ -62,19 +62,18 @@ std::string ValorDeLinea(const std::string& linea) {
     if (igual == std::string::npos) {
         return {};
     }
-    const std::size_t desde = igual + 2;
-    return desde >= linea.size() ? std::string() : RecortarBlancos(linea.substr(desde));
+    return RecortarBlancos(linea.substr(igual + 1));
 }
 
 } // namespace
 
-ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave) {
+ValorLibre BuscarValor(ArchivoEntrada &archivo, const std::string &clave) {
     const std::size_t inicio = archivo.Posicion();
     if (archivo.FinArchivo()) {
         return ValorLibre();
     }
     const std::string clave8 = AOchoBits(clave);
-    const std::string* linea = nullptr;
+    const std::string *linea = nullptr;
     std::string primeraClave;
     bool hayPrimeraClave = false;
     while (!archivo.FinArchivo()) {
@@ -105,21 +104,23 @@ ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave) {
     return ValorLibre(DesdeOchoBits(ValorDeLinea(*linea)));
 }
 
-void ArchivoSalida::Escribir(const std::string& linea) { lineas_.push_back(AOchoBits(linea)); }
+void ArchivoSalida::Escribir(const std::string &linea) {
+    lineas_.push_back(AOchoBits(linea));
+}
 
-void ArchivoSalida::Escribir(const std::string& clave, const std::string& valor) {
+void ArchivoSalida::Escribir(const std::string &clave, const std::string &valor) {
     Escribir(clave + " = " + valor);
 }
 
-void EscribirCompleto(const std::string& ruta, const ArchivoSalida& salida) {
+void EscribirCompleto(const std::string &ruta, const ArchivoSalida &salida) {
     EscribirArchivo(ruta, TextoProtegido(salida.Lineas()));
 }
 
-void AnadirSeccion(const std::string& ruta, const ArchivoSalida& salida) {
+void AnadirSeccion(const std::string &ruta, const ArchivoSalida &salida) {
     AnadirArchivo(ruta, UnirLineas(salida.Lineas()));
 }
 
-void GuardarSeccion(const std::string& ruta, const ArchivoSalida& salida, bool anadir) {
+void GuardarSeccion(const std::string &ruta, const ArchivoSalida &salida, bool anadir) {
     if (anadir) {
         AnadirSeccion(ruta, salida);
     } else {

@@ -21,8 +21,11 @@ TEST(CodigoPagina, AllCodesRoundTripThroughUtf8) {
     }
     const std::string utf8 = DesdeOchoBits(todos);
     EXPECT_EQ(AOchoBits(utf8), todos);
-    EXPECT_EQ(DesdeOchoBits("\x80\xF1\x9F" ""), "€ñŸ");
-    EXPECT_EQ(AOchoBits("Año €"), "A\xF1o \x80" "");
+    EXPECT_EQ(DesdeOchoBits("\x80\xF1\x9F"
+                            ""),
+              "€ñŸ");
+    EXPECT_EQ(AOchoBits("Año €"), "A\xF1o \x80"
+                                  "");
     EXPECT_EQ(AOchoBits("ő✓"), "??") << "characters the page lacks";
     EXPECT_EQ(AOchoBits("\xC3"), "?") << "a broken sequence";
 }
@@ -39,7 +42,9 @@ TEST(Lineas, EveryLineEndCountsOnce) {
 TEST_F(Archivos, AFailedWriteLeavesThePreviousFileIntact) {
     const std::string ruta = Ruta("modelo.vdm");
     Escribir(ruta, "antes");
-    sesion().servicios.durante_escritura = [](const std::string&) { throw ErrorEjecucion(ErrDiscoLleno); };
+    sesion().servicios.durante_escritura = [](const std::string &) {
+        throw ErrorEjecucion(ErrDiscoLleno);
+    };
     EXPECT_THROW(EscribirArchivo(ruta, "despues"), ErrorEjecucion);
     EXPECT_EQ(Contenido(ruta), "antes");
     sesion().servicios.durante_escritura = nullptr;
@@ -53,13 +58,13 @@ TEST_F(Archivos, FailuresAreRuntimeErrors) {
     try {
         (void)LeerArchivo(Ruta("no-esta.vdm"));
         FAIL();
-    } catch (const ErrorEjecucion& e) {
+    } catch (const ErrorEjecucion &e) {
         EXPECT_EQ(e.Numero(), ErrArchivoNoEncontrado);
     }
     try {
         EscribirArchivo(Ruta("no-existe/modelo.vdm"), "x");
         FAIL();
-    } catch (const ErrorEjecucion& e) {
+    } catch (const ErrorEjecucion &e) {
         EXPECT_EQ(e.Numero(), ErrRutaNoEncontrada);
     }
 }

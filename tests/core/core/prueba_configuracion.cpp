@@ -11,7 +11,7 @@ namespace {
 class Configuracion_ : public pruebas::PruebaSesion {
 protected:
     std::string ini = Ruta("Config.ini");
-    const Configuracion& c() { return sesion().configuracion; }
+    const Configuracion &c() { return sesion().configuracion; }
 };
 
 TEST_F(Configuracion_, AFirstStartWritesTheTwoDisplayKeysAndTheFontSize) {
@@ -25,13 +25,16 @@ TEST_F(Configuracion_, AFirstStartWritesTheTwoDisplayKeysAndTheFontSize) {
 }
 
 TEST_F(Configuracion_, OnlyFalseAndFalsoMeanFalseAndAreLeftAlone) {
-    Escribir(ini, "[GENERAL]\r\nMOSTRAR_INICIO=False\r\nMOSTRAR_AVISO_BETA=falso\r\nTAMA\xD1O_FUENTE=1\r\n");
+    Escribir(
+        ini,
+        "[GENERAL]\r\nMOSTRAR_INICIO=False\r\nMOSTRAR_AVISO_BETA=falso\r\nTAMA\xD1O_FUENTE=1\r\n");
     CargarConfiguracion(sesion());
     EXPECT_FALSE(c().MostrarInicio);
     EXPECT_TRUE(c().MostrarAvisoBeta) << "the comparison is exact";
     EXPECT_EQ(c().TamanoFuente, 1);
-    EXPECT_EQ(Contenido(ini), "[GENERAL]\r\nMOSTRAR_INICIO=False\r\nMOSTRAR_AVISO_BETA=Verdadero\r\n"
-                              "TAMA\xD1O_FUENTE=1\r\n");
+    EXPECT_EQ(Contenido(ini),
+              "[GENERAL]\r\nMOSTRAR_INICIO=False\r\nMOSTRAR_AVISO_BETA=Verdadero\r\n"
+              "TAMA\xD1O_FUENTE=1\r\n");
 }
 
 TEST_F(Configuracion_, DirectoriesReadInAndMinusOneIsEmpty) {
@@ -55,7 +58,7 @@ TEST_F(Configuracion_, AFontSizeOutOfRangeIsTakenAndTextIsAConversionError) {
     try {
         CargarConfiguracion(sesion());
         FAIL() << "a font size that is no number stops the start";
-    } catch (const ErrorEjecucion& e) {
+    } catch (const ErrorEjecucion &e) {
         EXPECT_EQ(e.Numero(), ErrTipos);
     }
 }

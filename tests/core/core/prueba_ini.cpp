@@ -9,7 +9,9 @@ namespace {
 class Ini : public pruebas::PruebaSesion {
 protected:
     std::string archivo = Ruta("Config.ini");
-    std::string Leer(const std::string& s, const std::string& k) { return LeerIni(s, k, archivo).Texto(); }
+    std::string Leer(const std::string &s, const std::string &k) {
+        return LeerIni(s, k, archivo).Texto();
+    }
 };
 
 TEST_F(Ini, AMissingFileOrKeyReadsAsMinusOne) {
@@ -33,7 +35,9 @@ TEST_F(Ini, AReadReturnsAtMost255Characters) {
 
 TEST_F(Ini, TheFileIsEightBitText) {
     EscribirIni("DIRECTORIOS", "MODELOS", "C:\\Años\\Señal", archivo);
-    EXPECT_EQ(Contenido(archivo), "[DIRECTORIOS]\r\nMODELOS=C:\\A\xF1" "os\\Se\xF1" "al\r\n");
+    EXPECT_EQ(Contenido(archivo), "[DIRECTORIOS]\r\nMODELOS=C:\\A\xF1"
+                                  "os\\Se\xF1"
+                                  "al\r\n");
     EXPECT_EQ(Leer("DIRECTORIOS", "MODELOS"), "C:\\Años\\Señal");
 }
 

@@ -1,0 +1,203 @@
+#include "core/core/archivos.h"
+#include "core/core/error_ejecucion.h"
+#include "core/files/modelo_archivo.h"
+#include "core/files/proteccion.h"
+#include "soporte/prueba_sesion.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace vadro {
+namespace {
+
+class Cabecera : public pruebas::PruebaSesion {
+protected:
+    std::string ruta = Ruta("modelo.vdm");
+
+    static Modelo ModeloCompleto() {
+        Modelo m;
+        m.Aplicacion = "1.0.0";
+        m.Nombre = "Depuradora de Añón";
+        m.Fecha = "22/11/2026";
+        m.Autor = "Begoña";
+        m.Version = "3";
+        m.Localizacion = "Zaragoza";
+        m.Referencia = "REF-1";
+        m.Descripcion = "Evaluación € ampliación";
+        m.ArchivoCompilado = "C:\\modelos\\a.vdc";
+        m.EjeX = "Tiempo";
+        m.EjeY = "Requerimientos";
+        m.EjeZ = "Componentes";
+        m.PermisoUsuarioVer = true;
+        return m;
+    }
+
+    std::vector<std::string> LineasDelArchivo() { return LineasPlanas(Contenido(ruta)); }
+};
+
+TEST_F(Cabecera, TheHeaderLinesInTheirOrder) {
+    Modelo m = ModeloCompleto();
+    ArchivoSalida salida;
+    EscribirCabecera(m, salida, "");
+    const std::vector<std::string> esperadas = {
+        "*****MODELO*****",
+        "MOD_APL = 1.0.0",
+        "MOD_NOM = Depuradora de A\xF1\xF3n",
+        "MOD_DAT = 22/11/2026",
+        "MOD_POR = Bego\xF1"
+        "a",
+        "MOD_VER = 3",
+        "MOD_LOC = Zaragoza",
+        "MOD_REF = REF-1",
+        "MOD_DSC = Evaluaci\xF3n \x80 ampliaci\xF3n",
+        "MOD_FCP = C:\\modelos\\a.vdc",
+        "MOD_EJX = Tiempo",
+        "MOD_EJY = Requerimientos",
+        "MOD_EJZ = Componentes",
+        "MOD_PERM_USU_VER = Verdadero",
+    };
+    EXPECT_EQ(salida.Lineas(), esperadas);
+}
+
+TEST_F(Cabecera, AnEmptyModelWritesEmptyValues) {
+    ArchivoSalida salida;
+    EscribirCabecera(Modelo{}, salida, "");
+    EXPECT_EQ(salida.Lineas()[1], "MOD_APL = ");
+    EXPECT_EQ(salida.Lineas().back(), "MOD_PERM_USU_VER = Falso");
+}
+
+TEST_F(Cabecera, TheIndexPrefixesEveryKeyAndTheMarker) {
+    Modelo m = ModeloCompleto();
+    GuardarModelo(m, ruta, false, "X1");
+    const auto lineas = LineasDelArchivo();
+    EXPECT_EQ(lineas[0], "X1*****MODELO*****");
+    EXPECT_EQ(lineas[2], "X1MOD_NOM = Depuradora de A\xF1\xF3n");
+    Modelo leido;
+    CargarModelo(leido, ruta, "X1");
+    EXPECT_EQ(leido.Nombre, m.Nombre);
+    EXPECT_TRUE(leido.PermisoUsuarioVer);
+}
+
+TEST_F(Cabecera, ASavedModelIsScrambledAndLoadsBack) {
+    Modelo m = ModeloCompleto();
+    m.Modificado = true;
+    GuardarModelo(m, ruta, false);
+    EXPECT_FALSE(m.Modificado);
+    const std::string bytes = Contenido(ruta);
+    EXPECT_NE(bytes.substr(0, 5), "*****");
+    Modelo leido;
+    CargarModelo(leido, ruta);
+    m.Modificado = false;
+    leido.Archivo = m.Archivo;
+    EXPECT_EQ(leido, m);
+    EXPECT_FALSE(std::filesystem::exists(Ruta("modelo.$$$"))) << "the temporary file is deleted";
+}
+
+TEST_F(Cabecera, EqualsSignsInValuesFollowTheLastEqualsRule) {
+    Modelo m;
+    m.Nombre = "a=b";
+    m.Descripcion = "termina en=";
+    m.Autor = "  blancos  ";
+    GuardarModelo(m, ruta, false);
+    Modelo leido;
+    CargarModelo(leido, ruta);
+    EXPECT_EQ(leido.Nombre, "b") << "what stands before the last = is lost";
+    EXPECT_EQ(leido.Descripcion, "termina en=") << "a final = is kept";
+    EXPECT_EQ(leido.Autor, "blancos");
+}
+
+TEST_F(Cabecera, SavingTwiceGivesTheSameText) {
+    Modelo m = ModeloCompleto();
+    GuardarModelo(m, ruta, false);
+    const std::string primera = Contenido(ruta);
+    Modelo leido;
+    CargarModelo(leido, ruta);
+    GuardarModelo(leido, ruta, false);
+    EXPECT_EQ(Contenido(ruta), primera);
+}
+
+TEST_F(Cabecera, PlainTextLoadsAndUnknownKeysAreSkipped) {
+    Escribir(ruta, "*****MODELO*****\r\nMOD_APL = 2.1.0\r\nMOD_EXTRA = x\r\nMOD_NOM = Plano\r\n"
+                   "OTRA COSA\r\nMOD_PERM_USU_VER = True\r\n");
+    Modelo m;
+    CargarModelo(m, ruta);
+    EXPECT_EQ(m.Aplicacion, "2.1.0");
+    EXPECT_EQ(m.Nombre, "Plano");
+    EXPECT_EQ(m.EjeX, "");
+    EXPECT_TRUE(m.PermisoUsuarioVer);
+    EXPECT_EQ(Contenido(ruta).substr(0, 5), "*****") << "a reader leaves the plain file untouched";
+}
+
+TEST_F(Cabecera, PermissionIsTrueOnlyForVerdaderoOrTrue) {
+    for (const auto &[texto, esperado] : std::vector<std::pair<std::string, bool>>{
+             {"Verdadero", true}, {"True", true}, {"true", false}, {"Sí", false}, {"", false}}) {
+        Escribir(ruta, "*****MODELO*****\r\nMOD_PERM_USU_VER = " + texto + "\r\n");
+        Modelo m;
+        CargarModelo(m, ruta);
+        EXPECT_EQ(m.PermisoUsuarioVer, esperado) << texto;
+    }
+}
+
+TEST_F(Cabecera, AnEmptyOrUnknownFileGivesAnEmptyModel) {
+    Escribir(ruta, "");
+    Modelo m = ModeloCompleto();
+    CargarModelo(m, ruta);
+    EXPECT_EQ(m.Nombre, "");
+    EXPECT_EQ(m.ArchivoCompilado, "");
+    EXPECT_FALSE(m.PermisoUsuarioVer);
+
+    std::string ruido;
+    for (int i = 0; i < 4096; ++i) {
+        ruido += static_cast<char>((i * 7919) % 256);
+    }
+    Escribir(ruta, ruido);
+    Modelo n;
+    CargarModelo(n, ruta);
+    EXPECT_EQ(n.NumRequerimientos, ValorLibre());
+}
+
+TEST_F(Cabecera, AMissingFileIsRuntimeError53) {
+    Modelo m;
+    try {
+        CargarModelo(m, Ruta("no-esta.vdm"));
+        FAIL();
+    } catch (const ErrorEjecucion &e) {
+        EXPECT_EQ(e.Numero(), ErrArchivoNoEncontrado);
+    }
+}
+
+TEST_F(Cabecera, AFailedSaveShowsItsMessageAndKeepsModificado) {
+    Modelo m = ModeloCompleto();
+    m.Modificado = true;
+    mensajes.Esperar("VADRO: Error ",
+                     "Error 76 al guardar el modelo.\n\rNo se encontró la ruta de acceso");
+    GuardarModelo(m, Ruta("no-existe/modelo.vdm"), false);
+    EXPECT_TRUE(m.Modificado);
+}
+
+TEST_F(Cabecera, AFailureHalfwayLeavesThePreviousFileIntact) {
+    Modelo m = ModeloCompleto();
+    GuardarModelo(m, ruta, false);
+    const std::string anterior = Contenido(ruta);
+    m.Nombre = "Otro";
+    m.Modificado = true;
+    sesion().servicios.durante_escritura = [](const std::string &) {
+        throw ErrorEjecucion(ErrDiscoLleno);
+    };
+    mensajes.Esperar("VADRO: Error ", "Error 61 al guardar el modelo.\n\rDisco lleno");
+    GuardarModelo(m, ruta, false);
+    EXPECT_EQ(Contenido(ruta), anterior);
+    EXPECT_TRUE(m.Modificado);
+}
+
+TEST_F(Cabecera, AppendingAddsPlainTextBehindTheFile) {
+    Escribir(ruta, "PRIMERA = 1\r\n");
+    Modelo m;
+    GuardarModelo(m, ruta, true);
+    const std::string bytes = Contenido(ruta);
+    EXPECT_EQ(bytes.substr(0, 33), "PRIMERA = 1\r\n*****MODELO*****\r\nMO");
+}
+
+} // namespace
+} // namespace vadro
