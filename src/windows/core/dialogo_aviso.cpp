@@ -1,0 +1,54 @@
+#include "windows/core/dialogo_aviso.h"
+
+#include "windows/core/texto.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace vadro {
+
+DialogoAviso::DialogoAviso(const QStringList &textos, std::function<void(bool mostrar)> alMarcar,
+                           bool conCancelar, QWidget *padre)
+    : QDialog(padre) {
+    setWindowTitle(Q("VADRO PROGRAMADOR"));
+    auto *columna = new QVBoxLayout(this);
+    for (const QString &texto : textos) {
+        auto *etiqueta = new QLabel(texto, this);
+        etiqueta->setWordWrap(true);
+        etiqueta->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        etiquetas << etiqueta;
+        columna->addWidget(etiqueta);
+    }
+    chkAviso = new QCheckBox(Q("No volver a mostrar esta ventana."), this);
+    chkAviso->setObjectName(Q("chkAviso"));
+    columna->addWidget(chkAviso);
+
+    auto *botones = new QHBoxLayout;
+    botones->addStretch();
+    cmdAceptar = new QPushButton(Q("Aceptar"), this);
+    cmdAceptar->setObjectName(Q("cmdAceptar"));
+    cmdAceptar->setDefault(true);
+    botones->addWidget(cmdAceptar);
+    if (conCancelar) {
+        cmdCancelar = new QPushButton(Q("Cancelar"), this);
+        cmdCancelar->setObjectName(Q("cmdCancelar"));
+        botones->addWidget(cmdCancelar);
+        connect(cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
+    }
+    columna->addLayout(botones);
+
+    connect(chkAviso, &QCheckBox::clicked, this, [alMarcar](bool marcado) { alMarcar(!marcado); });
+    connect(cmdAceptar, &QPushButton::clicked, this, &QDialog::accept);
+    setMinimumWidth(420);
+    Cargado = true;
+}
+
+void DialogoAviso::done(int resultado) {
+    Cargado = false;
+    QDialog::done(resultado);
+}
+
+} // namespace vadro

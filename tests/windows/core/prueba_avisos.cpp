@@ -1,0 +1,119 @@
+#include "core/core/ini.h"
+#include "core/core/version.h"
+#include "soporte/guion_modales.h"
+#include "soporte/prueba_sesion.h"
+#include "windows/core/frmAcercaDe.h"
+#include "windows/core/frmAvisoFuncionValor.h"
+#include "windows/core/frmAvisoVersionBeta.h"
+#include "windows/core/frmConfirmacion.h"
+#include "windows/core/frmInicio.h"
+#include "windows/core/modal.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace vadro {
+namespace {
+
+using pruebas::Hijo;
+
+class Avisos : public pruebas::PruebaSesion {
+protected:
+    std::string Clave(const std::string &clave) {
+        return LeerIni("GENERAL", clave, Ruta("Config.ini")).Texto();
+    }
+};
+
+QString Texto(const QObject &ventana, const char *nombre) {
+    return Hijo<QLabel>(ventana, nombre)->text();
+}
+
+TEST_F(Avisos, TheDevelopmentNoticeShowsItsFourLabelsAndWritesItsKeyOnEachClick) {
+    frmAvisoVersionBeta aviso;
+    EXPECT_EQ(aviso.windowTitle(), QStringLiteral("VADRO PROGRAMADOR"));
+    EXPECT_EQ(Texto(aviso, "lblAviso1").toStdString(),
+              "Esta aplicación se encuentra en desarrollo, por lo que pueden aparecer errores.");
+    EXPECT_EQ(Texto(aviso, "lblAviso2").toStdString(),
+              "Se recomienda guardar los cambios con regularidad e informar de los errores a los "
+              "desarrolladores a través de la web:");
+    EXPECT_TRUE(Texto(aviso, "lblAviso3").startsWith(QStringLiteral("https://")));
+    EXPECT_EQ(Texto(aviso, "lblAviso4").toStdString(),
+              "Es conveniente tener instalada la última versión disponible y efectuar un control "
+              "regular de la web para posibles actualizaciones.");
+    auto *chk = Hijo<QCheckBox>(aviso, "chkAviso");
+    EXPECT_EQ(chk->text().toStdString(), "No volver a mostrar esta ventana.");
+    chk->click();
+    EXPECT_FALSE(sesion().configuracion.MostrarAvisoBeta);
+    EXPECT_EQ(Clave("MOSTRAR_AVISO_BETA"), "Falso");
+    chk->click();
+    EXPECT_TRUE(sesion().configuracion.MostrarAvisoBeta);
+    EXPECT_EQ(Clave("MOSTRAR_AVISO_BETA"), "Verdadero");
+}
+
+TEST_F(Avisos, TheFunctionDrawingNoticeLastsForTheSessionOnly) {
+    bool mostrar = true;
+    frmAvisoFuncionValor aviso(mostrar);
+    EXPECT_EQ(
+        Texto(aviso, "lblAviso").toStdString(),
+        "Introducir valores de límites y de satisfacción para obtener la representación gráfica.");
+    Hijo<QCheckBox>(aviso, "chkAviso")->click();
+    EXPECT_FALSE(mostrar);
+    Hijo<QCheckBox>(aviso, "chkAviso")->click();
+    EXPECT_TRUE(mostrar);
+    EXPECT_EQ(Contenido(Ruta("Config.ini")), "") << "nothing goes to the configuration";
+}
+
+TEST_F(Avisos, TheConfirmationAnswersWithItsButtons) {
+    bool mostrar = true;
+    frmConfirmacion confirmacion(mostrar);
+    EXPECT_EQ(Texto(confirmacion, "lblAviso").toStdString(),
+              "¿Está seguro que quiere reducir el número de intervalos?  Los datos "
+              "correspondientes a los últimos se perderán.");
+    Hijo<QCheckBox>(confirmacion, "chkAviso")->click();
+    EXPECT_FALSE(mostrar);
+    {
+        pruebas::GuionModales modales;
+        modales.Esperar(QStringLiteral("frmConfirmacion"),
+                        [](QDialog &d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
+        EXPECT_EQ(MostrarModal(confirmacion), QDialog::Rejected);
+    }
+    frmConfirmacion otra(mostrar);
+    pruebas::GuionModales modales;
+    modales.Esperar(QStringLiteral("frmConfirmacion"),
+                    [](QDialog &d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
+    EXPECT_EQ(MostrarModal(otra), QDialog::Accepted);
+    EXPECT_FALSE(otra.Cargado) << "closing unloads it";
+}
+
+TEST_F(Avisos, TheAboutBoxShowsTheVersion) {
+    frmAcercaDe acercaDe;
+    EXPECT_EQ(acercaDe.windowTitle().toStdString(), "Acerca de Vadro Programador");
+    EXPECT_EQ(Texto(acercaDe, "lblModulo").toStdString(), "módulo programador");
+    EXPECT_EQ(Texto(acercaDe, "lblVersion").toStdString(), "Versión " + VersionPrograma());
+    EXPECT_FALSE(Texto(acercaDe, "lblDisclaimer").isEmpty());
+}
+
+TEST_F(Avisos, TheStartScreenCheckBoxWritesAtOnceAndTheButtonsLead) {
+    int nuevos = 0;
+    int abiertos = 0;
+    frmInicio inicio([&] { ++nuevos; }, [&] { ++abiertos; });
+    EXPECT_EQ(inicio.windowTitle().toStdString(), "Iniciar Vadro Programador");
+    EXPECT_EQ(Hijo<QPushButton>(inicio, "cmdNuevo")->text(), QStringLiteral("NUEVO"));
+    EXPECT_EQ(Hijo<QPushButton>(inicio, "cmdExistente")->text(), QStringLiteral("EXISTENTE"));
+    auto *chk = Hijo<QCheckBox>(inicio, "chkNoMostrar");
+    EXPECT_EQ(chk->text().toStdString(), "No mostrar este cuadro de diálogo en el futuro");
+    EXPECT_FALSE(chk->isChecked());
+    chk->click();
+    EXPECT_FALSE(sesion().configuracion.MostrarInicio);
+    EXPECT_EQ(Clave("MOSTRAR_INICIO"), "Falso");
+    Hijo<QPushButton>(inicio, "cmdNuevo")->click();
+    Hijo<QPushButton>(inicio, "cmdExistente")->click();
+    EXPECT_EQ(nuevos, 1);
+    EXPECT_EQ(abiertos, 1);
+}
+
+} // namespace
+} // namespace vadro
