@@ -1,3 +1,5 @@
 #include "windows/core/inicio.h"
 
-int main(int argc, char* argv[]) { return vadro::Main(argc, argv); }
+int main(int argc, char* argv[]) {
+    return vadro::Main(argc, argv);
+}

@@ -5,27 +5,27 @@
 namespace vadro::pruebas {
 
 GuionDialogos::GuionDialogos() {
-    anterior_ = InstalarDialogos([this](const PeticionDialogo &p) { return Responder(p); });
+    anterior_ = InstalarDialogos([this](const PeticionDialogo& p) { return Responder(p); });
 }
 
 GuionDialogos::~GuionDialogos() {
     InstalarDialogos(std::move(anterior_));
-    for (const auto &falta : esperados_) {
+    for (const auto& falta : esperados_) {
         ADD_FAILURE() << "Expected file dialog never shown: " << falta.titulo;
     }
 }
 
-GuionDialogos &GuionDialogos::Elegir(const std::string &titulo, const std::string &ruta) {
+GuionDialogos& GuionDialogos::Elegir(const std::string& titulo, const std::string& ruta) {
     esperados_.push_back({titulo, ruta});
     return *this;
 }
 
-GuionDialogos &GuionDialogos::Cancelar(const std::string &titulo) {
+GuionDialogos& GuionDialogos::Cancelar(const std::string& titulo) {
     esperados_.push_back({titulo, std::nullopt});
     return *this;
 }
 
-std::optional<std::string> GuionDialogos::Responder(const PeticionDialogo &peticion) {
+std::optional<std::string> GuionDialogos::Responder(const PeticionDialogo& peticion) {
     peticiones_.push_back(peticion);
     if (esperados_.empty()) {
         ADD_FAILURE() << "Unexpected file dialog: " << peticion.titulo;

@@ -15,21 +15,21 @@ class GuionDialogos {
 public:
     GuionDialogos();
     ~GuionDialogos();
-    GuionDialogos(const GuionDialogos &) = delete;
-    GuionDialogos &operator=(const GuionDialogos &) = delete;
+    GuionDialogos(const GuionDialogos&) = delete;
+    GuionDialogos& operator=(const GuionDialogos&) = delete;
 
-    GuionDialogos &Elegir(const std::string &titulo, const std::string &ruta);
-    GuionDialogos &Cancelar(const std::string &titulo);
+    GuionDialogos& Elegir(const std::string& titulo, const std::string& ruta);
+    GuionDialogos& Cancelar(const std::string& titulo);
 
     // The requests seen so far, for checking folders, filters and flags.
-    const std::vector<PeticionDialogo> &Peticiones() const { return peticiones_; }
+    const std::vector<PeticionDialogo>& Peticiones() const { return peticiones_; }
 
 private:
     struct Esperado {
         std::string titulo;
         std::optional<std::string> ruta;
     };
-    std::optional<std::string> Responder(const PeticionDialogo &peticion);
+    std::optional<std::string> Responder(const PeticionDialogo& peticion);
 
     std::deque<Esperado> esperados_;
     std::vector<PeticionDialogo> peticiones_;

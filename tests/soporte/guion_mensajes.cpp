@@ -5,28 +5,28 @@
 namespace vadro::pruebas {
 
 GuionMensajes::GuionMensajes() {
-    anterior_ = InstalarMensajes([this](const Mensaje &mensaje) { return Responder(mensaje); });
+    anterior_ = InstalarMensajes([this](const Mensaje& mensaje) { return Responder(mensaje); });
 }
 
 GuionMensajes::~GuionMensajes() {
     InstalarMensajes(std::move(anterior_));
-    for (const auto &falta : esperados_) {
+    for (const auto& falta : esperados_) {
         ADD_FAILURE() << "Expected message never shown: [" << falta.titulo << "] " << falta.texto;
     }
 }
 
-GuionMensajes &GuionMensajes::Esperar(const std::string &titulo, const std::string &texto,
+GuionMensajes& GuionMensajes::Esperar(const std::string& titulo, const std::string& texto,
                                       Respuesta respuesta) {
     return Esperar(titulo, texto, respuesta, nullptr);
 }
 
-GuionMensajes &GuionMensajes::Esperar(const std::string &titulo, const std::string &texto,
+GuionMensajes& GuionMensajes::Esperar(const std::string& titulo, const std::string& texto,
                                       Respuesta respuesta, std::function<void()> accion) {
     esperados_.push_back({titulo, texto, respuesta, std::move(accion)});
     return *this;
 }
 
-Respuesta GuionMensajes::Responder(const Mensaje &mensaje) {
+Respuesta GuionMensajes::Responder(const Mensaje& mensaje) {
     vistos_.push_back(mensaje);
     if (esperados_.empty()) {
         ADD_FAILURE() << "Unexpected message: [" << mensaje.titulo << "] " << mensaje.texto;

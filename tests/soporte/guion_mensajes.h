@@ -16,18 +16,18 @@ class GuionMensajes {
 public:
     GuionMensajes();
     ~GuionMensajes();
-    GuionMensajes(const GuionMensajes &) = delete;
-    GuionMensajes &operator=(const GuionMensajes &) = delete;
+    GuionMensajes(const GuionMensajes&) = delete;
+    GuionMensajes& operator=(const GuionMensajes&) = delete;
 
     // Expects a message with this title and text, and answers it.
-    GuionMensajes &Esperar(const std::string &titulo, const std::string &texto,
+    GuionMensajes& Esperar(const std::string& titulo, const std::string& texto,
                            Respuesta respuesta = Respuesta::Aceptar);
     // Likewise, and runs an action before answering (to change what caused the message).
-    GuionMensajes &Esperar(const std::string &titulo, const std::string &texto, Respuesta respuesta,
+    GuionMensajes& Esperar(const std::string& titulo, const std::string& texto, Respuesta respuesta,
                            std::function<void()> accion);
 
     // Every message shown so far, expected or not.
-    const std::vector<Mensaje> &Vistos() const { return vistos_; }
+    const std::vector<Mensaje>& Vistos() const { return vistos_; }
     bool Completo() const { return esperados_.empty(); }
 
 private:
@@ -37,7 +37,7 @@ private:
         Respuesta respuesta;
         std::function<void()> accion;
     };
-    Respuesta Responder(const Mensaje &mensaje);
+    Respuesta Responder(const Mensaje& mensaje);
 
     std::deque<Esperado> esperados_;
     std::vector<Mensaje> vistos_;

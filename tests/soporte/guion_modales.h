@@ -16,23 +16,23 @@ class GuionModales {
 public:
     GuionModales();
     ~GuionModales();
-    GuionModales(const GuionModales &) = delete;
-    GuionModales &operator=(const GuionModales &) = delete;
+    GuionModales(const GuionModales&) = delete;
+    GuionModales& operator=(const GuionModales&) = delete;
 
-    GuionModales &Esperar(const QString &ventana, std::function<void(QDialog &)> accion);
+    GuionModales& Esperar(const QString& ventana, std::function<void(QDialog&)> accion);
 
-    const std::vector<QString> &Vistas() const { return vistas_; }
+    const std::vector<QString>& Vistas() const { return vistas_; }
 
 private:
-    void Conducir(QDialog &dialogo);
+    void Conducir(QDialog& dialogo);
 
-    std::deque<std::pair<QString, std::function<void(QDialog &)>>> esperadas_;
+    std::deque<std::pair<QString, std::function<void(QDialog&)>>> esperadas_;
     std::vector<QString> vistas_;
 };
 
 // The named child of a window; fails the test when it is missing.
-template <typename T> T *Hijo(const QObject &ventana, const char *nombre) {
-    T *hijo = ventana.findChild<T *>(QString::fromUtf8(nombre));
+template <typename T> T* Hijo(const QObject& ventana, const char* nombre) {
+    T* hijo = ventana.findChild<T*>(QString::fromUtf8(nombre));
     if (hijo == nullptr) {
         throw std::runtime_error(std::string("no child named ") + nombre);
     }

@@ -39,16 +39,16 @@ PruebaSesion::~PruebaSesion() {
     fs::remove_all(directorio_, ec);
 }
 
-std::string PruebaSesion::Ruta(const std::string &nombre) const {
+std::string PruebaSesion::Ruta(const std::string& nombre) const {
     return UnirRuta(directorio_, nombre);
 }
 
-std::string PruebaSesion::Contenido(const std::string &ruta) {
+std::string PruebaSesion::Contenido(const std::string& ruta) {
     std::ifstream entrada(ruta, std::ios::binary);
     return std::string((std::istreambuf_iterator<char>(entrada)), std::istreambuf_iterator<char>());
 }
 
-void PruebaSesion::Escribir(const std::string &ruta, const std::string &bytes) {
+void PruebaSesion::Escribir(const std::string& ruta, const std::string& bytes) {
     std::ofstream salida(ruta, std::ios::binary | std::ios::trunc);
     salida << bytes;
 }

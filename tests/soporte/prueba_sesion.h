@@ -16,13 +16,13 @@ protected:
     PruebaSesion();
     ~PruebaSesion() override;
 
-    Sesion &sesion() { return SesionActual(); }
-    const std::string &Directorio() const { return directorio_; }
+    Sesion& sesion() { return SesionActual(); }
+    const std::string& Directorio() const { return directorio_; }
     // A path inside the test's program directory.
-    std::string Ruta(const std::string &nombre) const;
+    std::string Ruta(const std::string& nombre) const;
     // The bytes of a file; empty when missing.
-    static std::string Contenido(const std::string &ruta);
-    static void Escribir(const std::string &ruta, const std::string &bytes);
+    static std::string Contenido(const std::string& ruta);
+    static void Escribir(const std::string& ruta, const std::string& bytes);
 
     GuionMensajes mensajes;
 

@@ -21,9 +21,9 @@ char SeparadorRuta() {
 #endif
 }
 
-std::string NormalizarRuta(const std::string &ruta) {
+std::string NormalizarRuta(const std::string& ruta) {
     std::string normal = ruta;
-    for (char &c : normal) {
+    for (char& c : normal) {
         if (c == '\\' || c == '/') {
             c = SeparadorRuta();
         }
@@ -31,7 +31,7 @@ std::string NormalizarRuta(const std::string &ruta) {
     return normal;
 }
 
-std::string UnirRuta(const std::string &directorio, const std::string &nombre) {
+std::string UnirRuta(const std::string& directorio, const std::string& nombre) {
     std::string ruta = NormalizarRuta(directorio);
     if (!ruta.empty() && ruta.back() != SeparadorRuta()) {
         ruta += SeparadorRuta();
@@ -41,18 +41,18 @@ std::string UnirRuta(const std::string &directorio, const std::string &nombre) {
 
 namespace {
 
-fs::path Ruta(const std::string &ruta) {
+fs::path Ruta(const std::string& ruta) {
     const std::string normal = NormalizarRuta(ruta);
     return fs::path(std::u8string(normal.begin(), normal.end()));
 }
 
-std::string Utf8(const fs::path &ruta) {
+std::string Utf8(const fs::path& ruta) {
     const std::u8string texto = ruta.u8string();
     return std::string(texto.begin(), texto.end());
 }
 
 // The runtime error that stands for a failed write of a file at the given path.
-[[noreturn]] void FalloEscritura(const fs::path &ruta, int numeroSistema) {
+[[noreturn]] void FalloEscritura(const fs::path& ruta, int numeroSistema) {
     if (numeroSistema == ENOSPC) {
         throw ErrorEjecucion(ErrDiscoLleno);
     }
@@ -63,19 +63,19 @@ std::string Utf8(const fs::path &ruta) {
     throw ErrorEjecucion(numeroSistema == EACCES ? ErrPermiso : ErrAccesoRuta);
 }
 
-std::string NombreTemporal(const fs::path &destino) {
+std::string NombreTemporal(const fs::path& destino) {
     static std::mt19937 azar{std::random_device{}()};
     return "." + Utf8(destino.filename()) + "." + std::to_string(azar() % 1000000) + ".tmp";
 }
 
 } // namespace
 
-bool ExisteArchivo(const std::string &ruta) {
+bool ExisteArchivo(const std::string& ruta) {
     std::error_code ec;
     return !ruta.empty() && fs::is_regular_file(Ruta(ruta), ec);
 }
 
-std::string LeerArchivo(const std::string &ruta) {
+std::string LeerArchivo(const std::string& ruta) {
     const fs::path camino = Ruta(ruta);
     std::error_code ec;
     if (ruta.empty() || !fs::exists(camino, ec)) {
@@ -95,7 +95,7 @@ std::string LeerArchivo(const std::string &ruta) {
     return bytes;
 }
 
-void EscribirArchivo(const std::string &ruta, const std::string &bytes) {
+void EscribirArchivo(const std::string& ruta, const std::string& bytes) {
     const fs::path destino = Ruta(ruta);
     if (ruta.empty() || destino.filename().empty()) {
         throw ErrorEjecucion(ErrNombreArchivo);
@@ -109,7 +109,7 @@ void EscribirArchivo(const std::string &ruta, const std::string &bytes) {
         }
         try {
             salida.write(bytes.data(), static_cast<std::streamsize>(bytes.size() / 2));
-            if (const auto &durante = SesionActual().servicios.durante_escritura) {
+            if (const auto& durante = SesionActual().servicios.durante_escritura) {
                 durante(ruta);
             }
             salida.write(bytes.data() + bytes.size() / 2,
@@ -137,7 +137,7 @@ void EscribirArchivo(const std::string &ruta, const std::string &bytes) {
     }
 }
 
-void AnadirArchivo(const std::string &ruta, const std::string &bytes) {
+void AnadirArchivo(const std::string& ruta, const std::string& bytes) {
     const fs::path destino = Ruta(ruta);
     errno = 0;
     std::ofstream salida(destino, std::ios::binary | std::ios::app);
@@ -151,12 +151,12 @@ void AnadirArchivo(const std::string &ruta, const std::string &bytes) {
     }
 }
 
-void BorrarArchivo(const std::string &ruta) {
+void BorrarArchivo(const std::string& ruta) {
     std::error_code ec;
     fs::remove(Ruta(ruta), ec);
 }
 
-std::vector<std::string> DividirLineas(const std::string &bytes) {
+std::vector<std::string> DividirLineas(const std::string& bytes) {
     std::vector<std::string> lineas;
     std::size_t inicio = 0;
     std::size_t i = 0;
@@ -176,14 +176,14 @@ std::vector<std::string> DividirLineas(const std::string &bytes) {
     return lineas;
 }
 
-std::string UnirLineas(const std::vector<std::string> &lineas) {
+std::string UnirLineas(const std::vector<std::string>& lineas) {
     std::size_t total = 0;
-    for (const auto &linea : lineas) {
+    for (const auto& linea : lineas) {
         total += linea.size() + 2;
     }
     std::string bytes;
     bytes.reserve(total);
-    for (const auto &linea : lineas) {
+    for (const auto& linea : lineas) {
         bytes += linea;
         bytes += "\r\n";
     }

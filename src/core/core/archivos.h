@@ -7,29 +7,29 @@ namespace vadro {
 
 // Paths accept "\" and "/" as separators and are written with the platform's.
 char SeparadorRuta();
-std::string NormalizarRuta(const std::string &ruta);
-std::string UnirRuta(const std::string &directorio, const std::string &nombre);
+std::string NormalizarRuta(const std::string& ruta);
+std::string UnirRuta(const std::string& directorio, const std::string& nombre);
 
-bool ExisteArchivo(const std::string &ruta);
+bool ExisteArchivo(const std::string& ruta);
 
 // The bytes of a file. A missing file is runtime error 53; a file that cannot be read, 75.
-std::string LeerArchivo(const std::string &ruta);
+std::string LeerArchivo(const std::string& ruta);
 
 // Writes the whole file so that the previous one is never damaged: the bytes go to a
 // temporary file beside the target, which takes the target's place only when complete.
-void EscribirArchivo(const std::string &ruta, const std::string &bytes);
+void EscribirArchivo(const std::string& ruta, const std::string& bytes);
 
 // Appends to a file, creating it if missing.
-void AnadirArchivo(const std::string &ruta, const std::string &bytes);
+void AnadirArchivo(const std::string& ruta, const std::string& bytes);
 
 // Deletes a file; a file that is not there is no failure.
-void BorrarArchivo(const std::string &ruta);
+void BorrarArchivo(const std::string& ruta);
 
 // Splits 8-bit text into lines: carriage return and line feed together end a line, and so
 // does either of them alone. A last line without an end still counts.
-std::vector<std::string> DividirLineas(const std::string &bytes);
+std::vector<std::string> DividirLineas(const std::string& bytes);
 
 // Joins lines, each ended by carriage return and line feed.
-std::string UnirLineas(const std::vector<std::string> &lineas);
+std::string UnirLineas(const std::vector<std::string>& lineas);
 
 } // namespace vadro

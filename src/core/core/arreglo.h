@@ -39,15 +39,15 @@ public:
         presente_ = false;
     }
 
-    T &operator()(int indice) { return elementos_[Posicion(indice)]; }
-    const T &operator()(int indice) const { return elementos_[Posicion(indice)]; }
+    T& operator()(int indice) { return elementos_[Posicion(indice)]; }
+    const T& operator()(int indice) const { return elementos_[Posicion(indice)]; }
 
     auto begin() { return elementos_.begin(); }
     auto end() { return elementos_.end(); }
     auto begin() const { return elementos_.begin(); }
     auto end() const { return elementos_.end(); }
 
-    bool operator==(const Arreglo &) const = default;
+    bool operator==(const Arreglo&) const = default;
 
 private:
     void ExigirPresente() const {
@@ -93,10 +93,10 @@ public:
         presente_ = false;
     }
 
-    T &operator()(int fila, int columna) { return celdas_[Posicion(fila, columna)]; }
-    const T &operator()(int fila, int columna) const { return celdas_[Posicion(fila, columna)]; }
+    T& operator()(int fila, int columna) { return celdas_[Posicion(fila, columna)]; }
+    const T& operator()(int fila, int columna) const { return celdas_[Posicion(fila, columna)]; }
 
-    bool operator==(const Matriz &) const = default;
+    bool operator==(const Matriz&) const = default;
 
 private:
     std::size_t Posicion(int fila, int columna) const {

@@ -30,7 +30,7 @@ int CodigoDeCaracter(char32_t caracter) {
     return -1;
 }
 
-void AnadirUtf8(std::string &destino, char32_t c) {
+void AnadirUtf8(std::string& destino, char32_t c) {
     auto byte = [&destino](uint32_t b) { destino += static_cast<char>(b); };
     const auto v = static_cast<uint32_t>(c);
     if (v < 0x80) {
@@ -52,7 +52,7 @@ void AnadirUtf8(std::string &destino, char32_t c) {
 
 // Decodes the UTF-8 character at position i and moves past it; a broken sequence gives
 // U+FFFD and moves one byte on.
-char32_t LeerUtf8(std::string_view texto, std::size_t &i) {
+char32_t LeerUtf8(std::string_view texto, std::size_t& i) {
     const auto primero = static_cast<unsigned char>(texto[i++]);
     if (primero < 0x80) {
         return primero;

@@ -9,7 +9,7 @@ namespace {
 
 const std::string kFalta = "-1";
 
-std::string LeerDirectorio(const Sesion &sesion, const std::string &clave) {
+std::string LeerDirectorio(const Sesion& sesion, const std::string& clave) {
     const std::string valor =
         LeerIni(kSeccionDirectorios, clave, RutaConfiguracion(sesion)).Texto();
     return valor == kFalta ? std::string() : valor;
@@ -17,7 +17,7 @@ std::string LeerDirectorio(const Sesion &sesion, const std::string &clave) {
 
 // A display key is true unless it says false; a true value is written back, so that the file
 // of a first start holds the key.
-bool LeerMostrar(const Sesion &sesion, const std::string &clave) {
+bool LeerMostrar(const Sesion& sesion, const std::string& clave) {
     const std::string valor = LeerIni(kSeccionGeneral, clave, RutaConfiguracion(sesion)).Texto();
     if (!BooleanoConfiguracion(valor)) {
         return false;
@@ -28,7 +28,7 @@ bool LeerMostrar(const Sesion &sesion, const std::string &clave) {
 
 } // namespace
 
-std::string RutaConfiguracion(const Sesion &sesion) {
+std::string RutaConfiguracion(const Sesion& sesion) {
     return UnirRuta(sesion.DirectorioPrograma, "Config.ini");
 }
 
@@ -36,12 +36,12 @@ std::string TextoBooleano(bool valor) {
     return valor ? "Verdadero" : "Falso";
 }
 
-bool BooleanoConfiguracion(const std::string &texto) {
+bool BooleanoConfiguracion(const std::string& texto) {
     return texto != "False" && texto != "Falso";
 }
 
-void CargarConfiguracion(Sesion &sesion) {
-    Configuracion &c = sesion.configuracion;
+void CargarConfiguracion(Sesion& sesion) {
+    Configuracion& c = sesion.configuracion;
     c.DirProyectos = LeerDirectorio(sesion, kClaveProyectos);
     c.DirModelos = LeerDirectorio(sesion, kClaveModelos);
     c.DirRequerimientos = LeerDirectorio(sesion, kClaveRequerimientos);
@@ -61,22 +61,22 @@ void CargarConfiguracion(Sesion &sesion) {
     }
 }
 
-void EscribirConfiguracion(const Sesion &sesion, const std::string &seccion,
-                           const std::string &clave, const std::string &valor) {
+void EscribirConfiguracion(const Sesion& sesion, const std::string& seccion,
+                           const std::string& clave, const std::string& valor) {
     EscribirIni(seccion, clave, valor, RutaConfiguracion(sesion));
 }
 
-void GuardarMostrarInicio(Sesion &sesion, bool mostrar) {
+void GuardarMostrarInicio(Sesion& sesion, bool mostrar) {
     sesion.configuracion.MostrarInicio = mostrar;
     EscribirConfiguracion(sesion, kSeccionGeneral, kClaveMostrarInicio, TextoBooleano(mostrar));
 }
 
-void GuardarMostrarAvisoBeta(Sesion &sesion, bool mostrar) {
+void GuardarMostrarAvisoBeta(Sesion& sesion, bool mostrar) {
     sesion.configuracion.MostrarAvisoBeta = mostrar;
     EscribirConfiguracion(sesion, kSeccionGeneral, kClaveMostrarAvisoBeta, TextoBooleano(mostrar));
 }
 
-void GuardarTamanoFuente(Sesion &sesion, int32_t tamano) {
+void GuardarTamanoFuente(Sesion& sesion, int32_t tamano) {
     sesion.configuracion.TamanoFuente = tamano;
     EscribirConfiguracion(sesion, kSeccionGeneral, kClaveTamanoFuente, std::to_string(tamano));
 }

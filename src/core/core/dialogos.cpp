@@ -7,8 +7,8 @@
 
 namespace vadro {
 
-std::string MostrarDialogoArchivo(const PeticionDialogo &peticion) {
-    auto &funcion = SesionActual().servicios.dialogos;
+std::string MostrarDialogoArchivo(const PeticionDialogo& peticion) {
+    auto& funcion = SesionActual().servicios.dialogos;
     // Without a service there is nobody to choose: the same as a cancel.
     std::optional<std::string> ruta = funcion ? funcion(peticion) : std::nullopt;
     if (!ruta) {

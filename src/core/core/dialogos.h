@@ -28,11 +28,11 @@ struct PeticionDialogo {
 };
 
 // Answers a request with the chosen path, or nothing when the user cancels.
-using FuncionDialogos = std::function<std::optional<std::string>(const PeticionDialogo &)>;
+using FuncionDialogos = std::function<std::optional<std::string>(const PeticionDialogo&)>;
 
 // Shows a file dialog through the service installed in the session. Cancelling is reported
 // to the command as the cancel error 32755.
-std::string MostrarDialogoArchivo(const PeticionDialogo &peticion);
+std::string MostrarDialogoArchivo(const PeticionDialogo& peticion);
 
 FuncionDialogos InstalarDialogos(FuncionDialogos funcion);
 

@@ -12,8 +12,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Variable(const char *nombre) {
-    const char *valor = std::getenv(nombre);
+std::string Variable(const char* nombre) {
+    const char* valor = std::getenv(nombre);
     return valor != nullptr ? std::string(valor) : std::string();
 }
 
@@ -31,7 +31,7 @@ std::string CarpetaDatosUsuario() {
 
 } // namespace
 
-bool EsEscribible(const std::string &carpeta) {
+bool EsEscribible(const std::string& carpeta) {
     if (carpeta.empty()) {
         return false;
     }
@@ -45,7 +45,7 @@ bool EsEscribible(const std::string &carpeta) {
     return escribible;
 }
 
-std::string ResolverDirectorioPrograma(const std::string &carpetaEjecutable) {
+std::string ResolverDirectorioPrograma(const std::string& carpetaEjecutable) {
     if (const std::string elegido = Variable("VADRO_DIR"); !elegido.empty()) {
         return NormalizarRuta(elegido);
     }

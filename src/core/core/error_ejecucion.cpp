@@ -29,10 +29,10 @@ std::string DescripcionError(int numero) {
 
 ErrorEjecucion::ErrorEjecucion(int numero) : ErrorEjecucion(numero, DescripcionError(numero)) {}
 
-ErrorEjecucion::ErrorEjecucion(int numero, const std::string &descripcion)
+ErrorEjecucion::ErrorEjecucion(int numero, const std::string& descripcion)
     : std::runtime_error(descripcion), numero_(numero) {}
 
-std::string TextoErrorEjecucion(const ErrorEjecucion &error) {
+std::string TextoErrorEjecucion(const ErrorEjecucion& error) {
     return "Se ha producido el error '" + std::to_string(error.Numero()) +
            "' en tiempo de ejecución:\n\n" + error.Descripcion();
 }

@@ -32,7 +32,7 @@ std::string DescripcionError(int numero);
 class ErrorEjecucion : public std::runtime_error {
 public:
     explicit ErrorEjecucion(int numero);
-    ErrorEjecucion(int numero, const std::string &descripcion);
+    ErrorEjecucion(int numero, const std::string& descripcion);
 
     int Numero() const noexcept { return numero_; }
     std::string Descripcion() const { return what(); }
@@ -42,6 +42,6 @@ private:
 };
 
 // The text of the runtime error box shown when a failure reaches a command with no trap.
-std::string TextoErrorEjecucion(const ErrorEjecucion &error);
+std::string TextoErrorEjecucion(const ErrorEjecucion& error);
 
 } // namespace vadro

@@ -13,9 +13,9 @@ namespace vadro {
 namespace {
 
 constexpr std::size_t kLargoMaximo = 255;
-const char *const kFalta = "-1";
+const char* const kFalta = "-1";
 
-std::string Recortar(const std::string &texto) {
+std::string Recortar(const std::string& texto) {
     const auto inicio = texto.find_first_not_of(" \t");
     if (inicio == std::string::npos) {
         return {};
@@ -24,7 +24,7 @@ std::string Recortar(const std::string &texto) {
     return texto.substr(inicio, fin - inicio + 1);
 }
 
-bool IgualSinMayusculas(const std::string &a, const std::string &b) {
+bool IgualSinMayusculas(const std::string& a, const std::string& b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
         return MayusculaOchoBits(static_cast<unsigned char>(x)) ==
                MayusculaOchoBits(static_cast<unsigned char>(y));
@@ -32,7 +32,7 @@ bool IgualSinMayusculas(const std::string &a, const std::string &b) {
 }
 
 // The name of a section line "[name]", or nothing for any other line.
-std::optional<std::string> NombreSeccion(const std::string &linea) {
+std::optional<std::string> NombreSeccion(const std::string& linea) {
     const std::string recortada = Recortar(linea);
     if (recortada.empty() || recortada.front() != '[') {
         return std::nullopt;
@@ -42,7 +42,7 @@ std::optional<std::string> NombreSeccion(const std::string &linea) {
         recortada.substr(1, cierre == std::string::npos ? std::string::npos : cierre - 1));
 }
 
-bool EsLineaDeClave(const std::string &linea, const std::string &clave) {
+bool EsLineaDeClave(const std::string& linea, const std::string& clave) {
     const auto igual = linea.find('=');
     return igual != std::string::npos &&
            IgualSinMayusculas(Recortar(linea.substr(0, igual)), clave);
@@ -54,8 +54,8 @@ struct Tramo {
     std::size_t fin;
 };
 
-std::optional<Tramo> BuscarSeccion(const std::vector<std::string> &lineas,
-                                   const std::string &seccion) {
+std::optional<Tramo> BuscarSeccion(const std::vector<std::string>& lineas,
+                                   const std::string& seccion) {
     for (std::size_t i = 0; i < lineas.size(); ++i) {
         const auto nombre = NombreSeccion(lineas[i]);
         if (!nombre || !IgualSinMayusculas(*nombre, seccion)) {
@@ -72,10 +72,10 @@ std::optional<Tramo> BuscarSeccion(const std::vector<std::string> &lineas,
 
 // The lines of the file; a missing file has none. A file that is there but cannot be read
 // gives nothing, so that a write never replaces what it could not see.
-std::optional<std::vector<std::string>> LineasDe(const std::string &archivo) {
+std::optional<std::vector<std::string>> LineasDe(const std::string& archivo) {
     try {
         return DividirLineas(LeerArchivo(archivo));
-    } catch (const ErrorEjecucion &error) {
+    } catch (const ErrorEjecucion& error) {
         if (error.Numero() == ErrArchivoNoEncontrado) {
             return std::vector<std::string>{};
         }
@@ -84,7 +84,7 @@ std::optional<std::vector<std::string>> LineasDe(const std::string &archivo) {
 }
 
 // A value between quotes of the same kind loses them, as the profile functions do.
-std::string SinComillas(const std::string &valor) {
+std::string SinComillas(const std::string& valor) {
     if (valor.size() >= 2 && (valor.front() == '"' || valor.front() == '\'') &&
         valor.back() == valor.front()) {
         return valor.substr(1, valor.size() - 2);
@@ -94,8 +94,8 @@ std::string SinComillas(const std::string &valor) {
 
 } // namespace
 
-ValorLibre LeerIni(const std::string &seccion, const std::string &clave,
-                   const std::string &archivo) {
+ValorLibre LeerIni(const std::string& seccion, const std::string& clave,
+                   const std::string& archivo) {
     const std::vector<std::string> lineas = LineasDe(archivo).value_or(std::vector<std::string>{});
     const std::string seccion8 = AOchoBits(seccion);
     const std::string clave8 = AOchoBits(clave);
@@ -113,13 +113,13 @@ ValorLibre LeerIni(const std::string &seccion, const std::string &clave,
     return ValorLibre(kFalta);
 }
 
-void EscribirIni(const std::string &seccion, const std::string &clave, const std::string &valor,
-                 const std::string &archivo) {
+void EscribirIni(const std::string& seccion, const std::string& clave, const std::string& valor,
+                 const std::string& archivo) {
     auto leidas = LineasDe(archivo);
     if (!leidas) {
         return;
     }
-    std::vector<std::string> &lineas = *leidas;
+    std::vector<std::string>& lineas = *leidas;
     const std::string seccion8 = AOchoBits(seccion);
     const std::string clave8 = AOchoBits(clave);
     const std::string linea = clave8 + "=" + AOchoBits(valor);
@@ -131,7 +131,7 @@ void EscribirIni(const std::string &seccion, const std::string &clave, const std
         auto existente =
             std::find_if(lineas.begin() + static_cast<long>(tramo->cabecera) + 1,
                          lineas.begin() + static_cast<long>(tramo->fin),
-                         [&](const std::string &l) { return EsLineaDeClave(l, clave8); });
+                         [&](const std::string& l) { return EsLineaDeClave(l, clave8); });
         if (existente != lineas.begin() + static_cast<long>(tramo->fin)) {
             *existente = linea;
         } else {
@@ -145,7 +145,7 @@ void EscribirIni(const std::string &seccion, const std::string &clave, const std
     }
     try {
         EscribirArchivo(archivo, UnirLineas(lineas));
-    } catch (const ErrorEjecucion &) {
+    } catch (const ErrorEjecucion&) {
         // The profile call reports nothing, and no caller looks at its result.
     }
 }

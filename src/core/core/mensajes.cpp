@@ -13,10 +13,10 @@ Respuesta PrimerBoton(Botones botones) {
                                                                           : Respuesta::Aceptar;
 }
 
-Respuesta MsgBox(const std::string &texto, Botones botones, Icono icono,
-                 const std::string &titulo) {
+Respuesta MsgBox(const std::string& texto, Botones botones, Icono icono,
+                 const std::string& titulo) {
     const Mensaje mensaje{texto, botones, icono, titulo};
-    auto &funcion = SesionActual().servicios.mensajes;
+    auto& funcion = SesionActual().servicios.mensajes;
     if (funcion) {
         return funcion(mensaje);
     }

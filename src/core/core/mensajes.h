@@ -18,10 +18,10 @@ struct Mensaje {
     std::string titulo;
 };
 
-using FuncionMensajes = std::function<Respuesta(const Mensaje &)>;
+using FuncionMensajes = std::function<Respuesta(const Mensaje&)>;
 
 // Shows a message box through the function installed in the session and returns the answer.
-Respuesta MsgBox(const std::string &texto, Botones botones, Icono icono, const std::string &titulo);
+Respuesta MsgBox(const std::string& texto, Botones botones, Icono icono, const std::string& titulo);
 
 // Installs the function that shows message boxes and returns the one it replaces. Without
 // one, a message goes to the standard error stream and takes the first button.

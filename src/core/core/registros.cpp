@@ -2,11 +2,11 @@
 
 namespace vadro {
 
-bool HaySubcriterios(const Modelo &modelo) {
+bool HaySubcriterios(const Modelo& modelo) {
     bool hay = false;
     const int requerimientos = modelo.NumRequerimientos.Cuenta();
     for (int r = 1; r <= requerimientos; ++r) {
-        const NodoRequerimiento &requerimiento = modelo.Requerimientos(r);
+        const NodoRequerimiento& requerimiento = modelo.Requerimientos(r);
         const int criterios = requerimiento.NumCriterios.Cuenta();
         for (int c = 1; c <= criterios; ++c) {
             if (requerimiento.Criterios(c).NumSubcriterios.Cuenta() > 0) {
@@ -17,7 +17,7 @@ bool HaySubcriterios(const Modelo &modelo) {
     return hay;
 }
 
-int NivelNodo(const std::string &clave) {
+int NivelNodo(const std::string& clave) {
     if (clave.empty()) {
         return 0;
     }

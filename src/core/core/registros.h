@@ -34,7 +34,7 @@ struct Escalon {
     ValorLibre ValorInicial; // a sign character followed by the number
     ValorLibre ValorFinal;
     ValorLibre Valor;
-    bool operator==(const Escalon &) const = default;
+    bool operator==(const Escalon&) const = default;
 };
 
 struct Puntuacion {
@@ -44,7 +44,7 @@ struct Puntuacion {
     ValorLibre Maximo;
     ValorLibre ValorMin; // the score for the answer no, or at the minimum
     ValorLibre ValorMax; // the score for the answer yes, or at the maximum
-    bool operator==(const Puntuacion &) const = default;
+    bool operator==(const Puntuacion&) const = default;
 };
 
 // The function of an optional indicator: only the kinds none, continuous and step.
@@ -61,13 +61,13 @@ struct FuncionOptativo {
     ValorLibre K;
     ValorLibre P;
     Arreglo<Escalon> Escalones;
-    bool operator==(const FuncionOptativo &) const = default;
+    bool operator==(const FuncionOptativo&) const = default;
 };
 
 struct IndicadorOptativo {
     std::string Nombre;
     FuncionOptativo Funcion;
-    bool operator==(const IndicadorOptativo &) const = default;
+    bool operator==(const IndicadorOptativo&) const = default;
 };
 
 struct FuncionValor {
@@ -86,7 +86,7 @@ struct FuncionValor {
     Arreglo<IndicadorOptativo> Optativos;
     Arreglo<Escalon> Escalones;
     Arreglo<Puntuacion> Puntuaciones;
-    bool operator==(const FuncionValor &) const = default;
+    bool operator==(const FuncionValor&) const = default;
 };
 
 // The head that the four levels of the requirements tree share.
@@ -99,18 +99,18 @@ struct CabeceraNodo {
     ValorLibre Directo;
     ValorLibre PesoAuxiliar; // consistency ratio of the sibling set; never stored in a file
     ValorLibre Peso;         // per cent of the sibling set, unrounded
-    bool operator==(const CabeceraNodo &) const = default;
+    bool operator==(const CabeceraNodo&) const = default;
 };
 
 struct NodoIndicador : CabeceraNodo {
     FuncionValor Funcion;
-    bool operator==(const NodoIndicador &) const = default;
+    bool operator==(const NodoIndicador&) const = default;
 };
 
 struct NodoSubcriterio : CabeceraNodo {
     ValorLibre NumIndicadores;
     Arreglo<NodoIndicador> Indicadores;
-    bool operator==(const NodoSubcriterio &) const = default;
+    bool operator==(const NodoSubcriterio&) const = default;
 };
 
 // A criterion may hold direct indicators and subcriteria at once; both lists are kept.
@@ -119,19 +119,19 @@ struct NodoCriterio : CabeceraNodo {
     Arreglo<NodoIndicador> Indicadores;
     ValorLibre NumSubcriterios;
     Arreglo<NodoSubcriterio> Subcriterios;
-    bool operator==(const NodoCriterio &) const = default;
+    bool operator==(const NodoCriterio&) const = default;
 };
 
 struct NodoRequerimiento : CabeceraNodo {
     ValorLibre NumCriterios;
     Arreglo<NodoCriterio> Criterios;
-    bool operator==(const NodoRequerimiento &) const = default;
+    bool operator==(const NodoRequerimiento&) const = default;
 };
 
 struct Subcomponente {
     std::string Clave;
     std::string Nombre;
-    bool operator==(const Subcomponente &) const = default;
+    bool operator==(const Subcomponente&) const = default;
 };
 
 struct Componente {
@@ -139,7 +139,7 @@ struct Componente {
     std::string Nombre;
     int16_t NumSubcomponentes = 0;
     Arreglo<Subcomponente> Subcomponentes;
-    bool operator==(const Componente &) const = default;
+    bool operator==(const Componente&) const = default;
 };
 
 struct Modelo {
@@ -168,7 +168,7 @@ struct Modelo {
     bool PermisoUsuarioVer = false;
     bool Modificado = false;
     bool Compilado = false;
-    bool operator==(const Modelo &) const = default;
+    bool operator==(const Modelo&) const = default;
 };
 
 // A row of the requirements window's working table: what a tree node carries besides its
@@ -182,14 +182,14 @@ struct NodoEdicion {
     ValorLibre PesoAuxiliar;
     int32_t Calculo = CalculoSaaty;
     FuncionValor Funcion;
-    bool operator==(const NodoEdicion &) const = default;
+    bool operator==(const NodoEdicion&) const = default;
 };
 
 // True if any criterion of the model has subcriteria. It walks the whole tree.
-bool HaySubcriterios(const Modelo &modelo);
+bool HaySubcriterios(const Modelo& modelo);
 
 // The level of a tree node read from the first letter of its key; 0 for no key or a letter
 // that names no level.
-int NivelNodo(const std::string &clave);
+int NivelNodo(const std::string& clave);
 
 } // namespace vadro

@@ -2,13 +2,13 @@
 
 namespace vadro {
 
-Sesion &SesionActual() {
+Sesion& SesionActual() {
     static Sesion sesion;
     return sesion;
 }
 
 void ReiniciarSesion() {
-    Sesion &sesion = SesionActual();
+    Sesion& sesion = SesionActual();
     Servicios servicios = std::move(sesion.servicios);
     std::string directorio = std::move(sesion.DirectorioPrograma);
     sesion = Sesion{};

@@ -19,7 +19,7 @@ struct Servicios {
     FuncionDialogos dialogos;
     // Called while a file is being written, before it takes the place of the target; a test
     // throws from it to see a save fail halfway.
-    std::function<void(const std::string &ruta)> durante_escritura;
+    std::function<void(const std::string& ruta)> durante_escritura;
 };
 
 // The values of "Config.ini" as the session holds them after the start.
@@ -56,7 +56,7 @@ struct Sesion {
 };
 
 // The session of this process.
-Sesion &SesionActual();
+Sesion& SesionActual();
 
 // Starts the session afresh: the empty model, the default configuration and no working
 // tables. The services and the program directory stay.

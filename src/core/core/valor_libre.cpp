@@ -11,12 +11,12 @@
 namespace vadro {
 
 bool ValorLibre::EsVacio() const {
-    const auto *texto = std::get_if<std::string>(&valor_);
+    const auto* texto = std::get_if<std::string>(&valor_);
     return texto != nullptr && texto->empty();
 }
 
 double ValorLibre::Numero() const {
-    if (const auto *numero = std::get_if<double>(&valor_)) {
+    if (const auto* numero = std::get_if<double>(&valor_)) {
         return *numero;
     }
     const auto leido = LeerNumero(std::get<std::string>(valor_));
@@ -27,7 +27,7 @@ double ValorLibre::Numero() const {
 }
 
 std::string ValorLibre::Texto() const {
-    if (const auto *numero = std::get_if<double>(&valor_)) {
+    if (const auto* numero = std::get_if<double>(&valor_)) {
         return TextoNumero(*numero);
     }
     return std::get<std::string>(valor_);
@@ -48,7 +48,7 @@ bool EsDigito(char c) {
 }
 
 // Collects the digits at position i into the buffer, and says how many it took.
-std::size_t TomarDigitos(std::string_view texto, std::size_t &i, std::string &destino) {
+std::size_t TomarDigitos(std::string_view texto, std::size_t& i, std::string& destino) {
     std::size_t tomados = 0;
     while (i < texto.size() && EsDigito(texto[i])) {
         destino += texto[i++];
@@ -131,10 +131,10 @@ int16_t AEntero16(double numero) {
 int32_t AEntero32(double numero) {
     return RedondearEntero<int32_t>(numero);
 }
-int16_t AEntero16(const ValorLibre &valor) {
+int16_t AEntero16(const ValorLibre& valor) {
     return AEntero16(valor.Numero());
 }
-int32_t AEntero32(const ValorLibre &valor) {
+int32_t AEntero32(const ValorLibre& valor) {
     return AEntero32(valor.Numero());
 }
 

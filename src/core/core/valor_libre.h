@@ -17,7 +17,7 @@ public:
     ValorLibre(double numero) : valor_(numero) {}
     ValorLibre(int numero) : valor_(static_cast<double>(numero)) {}
     ValorLibre(std::string texto) : valor_(std::move(texto)) {}
-    ValorLibre(const char *texto) : valor_(std::string(texto)) {}
+    ValorLibre(const char* texto) : valor_(std::string(texto)) {}
 
     bool EsVacio() const;
     bool EsNumero() const { return std::holds_alternative<double>(valor_); }
@@ -33,7 +33,7 @@ public:
     // A count: the empty text means zero, anything else is converted to a 16-bit integer.
     int Cuenta() const;
 
-    bool operator==(const ValorLibre &otro) const = default;
+    bool operator==(const ValorLibre& otro) const = default;
 
 private:
     std::variant<std::string, double> valor_;
@@ -51,7 +51,7 @@ std::string TextoNumero(double numero);
 // a value that is no number a type mismatch.
 int16_t AEntero16(double numero);
 int32_t AEntero32(double numero);
-int16_t AEntero16(const ValorLibre &valor);
-int32_t AEntero32(const ValorLibre &valor);
+int16_t AEntero16(const ValorLibre& valor);
+int32_t AEntero32(const ValorLibre& valor);
 
 } // namespace vadro

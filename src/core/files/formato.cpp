@@ -23,18 +23,18 @@ std::string FormaImpresa(double numero) {
     return (numero < 0 ? "" : " ") + texto + " ";
 }
 
-std::string FormaValor(const ValorLibre &valor) {
+std::string FormaValor(const ValorLibre& valor) {
     return valor.EsNumero() ? FormaImpresa(valor.Numero()) : valor.Texto();
 }
 
-std::string NumeroEscalado(const ValorLibre &valor) {
+std::string NumeroEscalado(const ValorLibre& valor) {
     if (valor.EsVacio()) {
         return {};
     }
     return FormaImpresa(std::floor(valor.Numero() * 1000000));
 }
 
-ValorLibre LeerEscalado(const ValorLibre &leido) {
+ValorLibre LeerEscalado(const ValorLibre& leido) {
     if (leido.EsVacio()) {
         return leido;
     }
@@ -45,7 +45,7 @@ std::string BooleanoArchivo(bool valor) {
     return valor ? "Verdadero" : "Falso";
 }
 
-bool LeerBooleanoArchivo(const ValorLibre &leido) {
+bool LeerBooleanoArchivo(const ValorLibre& leido) {
     const std::string texto = leido.Texto();
     return texto == "Verdadero" || texto == "True";
 }

@@ -10,7 +10,7 @@ namespace {
 
 // The header's text fields in the order of the file, with the suffix of each key.
 struct CampoCabecera {
-    const char *sufijo;
+    const char* sufijo;
     std::string Modelo::*campo;
 };
 
@@ -29,11 +29,11 @@ constexpr CampoCabecera kCampos[] = {
     {"_EJZ", &Modelo::EjeZ},
 };
 
-std::string ClaveCabecera(const Modelo &modelo, const std::string &indice, const char *sufijo) {
+std::string ClaveCabecera(const Modelo& modelo, const std::string& indice, const char* sufijo) {
     return indice + "MOD" + modelo.Clave + sufijo;
 }
 
-void MostrarFalloGuardado(const ErrorEjecucion &error) {
+void MostrarFalloGuardado(const ErrorEjecucion& error) {
     MsgBox("Error " + std::to_string(error.Numero()) + " al guardar el modelo.\n\r" +
                error.Descripcion(),
            Botones::Aceptar, Icono::Critico, "VADRO: Error ");
@@ -41,43 +41,43 @@ void MostrarFalloGuardado(const ErrorEjecucion &error) {
 
 } // namespace
 
-void EscribirCabecera(const Modelo &modelo, ArchivoSalida &salida, const std::string &indice) {
+void EscribirCabecera(const Modelo& modelo, ArchivoSalida& salida, const std::string& indice) {
     salida.Escribir(indice + "*****MODELO*****");
-    for (const auto &[sufijo, campo] : kCampos) {
+    for (const auto& [sufijo, campo] : kCampos) {
         salida.Escribir(ClaveCabecera(modelo, indice, sufijo), modelo.*campo);
     }
     salida.Escribir(ClaveCabecera(modelo, indice, "_PERM_USU_VER"),
                     BooleanoArchivo(modelo.PermisoUsuarioVer));
 }
 
-void LeerCabecera(Modelo &modelo, ArchivoEntrada &archivo, const std::string &indice) {
-    for (const auto &[sufijo, campo] : kCampos) {
+void LeerCabecera(Modelo& modelo, ArchivoEntrada& archivo, const std::string& indice) {
+    for (const auto& [sufijo, campo] : kCampos) {
         modelo.*campo = BuscarValor(archivo, ClaveCabecera(modelo, indice, sufijo)).Texto();
     }
     modelo.PermisoUsuarioVer =
         LeerBooleanoArchivo(BuscarValor(archivo, ClaveCabecera(modelo, indice, "_PERM_USU_VER")));
 }
 
-void GuardarModelo(Modelo &modelo, const std::string &ruta, bool anadir,
-                   const std::string &indice) {
+void GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
+                   const std::string& indice) {
     ArchivoSalida salida;
     EscribirCabecera(modelo, salida, indice);
     try {
         GuardarSeccion(ruta, salida, anadir);
-    } catch (const ErrorEjecucion &error) {
+    } catch (const ErrorEjecucion& error) {
         MostrarFalloGuardado(error);
         return;
     }
     modelo.Modificado = false;
 }
 
-void CargarModelo(Modelo &modelo, const std::string &ruta, const std::string &indice) {
+void CargarModelo(Modelo& modelo, const std::string& ruta, const std::string& indice) {
     ArchivoEntrada archivo = ArchivoEntrada::Abrir(ruta);
     CargarModelo(modelo, archivo, indice);
     archivo.BorrarTemporal();
 }
 
-void CargarModelo(Modelo &modelo, ArchivoEntrada &archivo, const std::string &indice) {
+void CargarModelo(Modelo& modelo, ArchivoEntrada& archivo, const std::string& indice) {
     LeerCabecera(modelo, archivo, indice);
 }
 

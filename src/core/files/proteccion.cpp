@@ -9,7 +9,7 @@ namespace vadro {
 
 namespace {
 
-template <typename Operacion> std::string AplicarClave(const std::string &linea, Operacion op) {
+template <typename Operacion> std::string AplicarClave(const std::string& linea, Operacion op) {
     std::string resultado(linea.size(), '\0');
     std::size_t p = 0;
     for (std::size_t i = 0; i < linea.size(); ++i) {
@@ -21,41 +21,41 @@ template <typename Operacion> std::string AplicarClave(const std::string &linea,
     return resultado;
 }
 
-bool EsTextoPlano(const std::vector<std::string> &lineas) {
+bool EsTextoPlano(const std::vector<std::string>& lineas) {
     return !lineas.empty() && lineas.front().rfind("*****", 0) == 0;
 }
 
 } // namespace
 
-std::string CodificarLinea(const std::string &linea) {
+std::string CodificarLinea(const std::string& linea) {
     return AplicarClave(linea, [](int c, int k) { return c + k > 255 ? c + k - 255 : c + k; });
 }
 
-std::string DecodificarLinea(const std::string &linea) {
+std::string DecodificarLinea(const std::string& linea) {
     return AplicarClave(linea, [](int c, int k) { return c - k < 0 ? c - k + 255 : c - k; });
 }
 
-std::string TextoProtegido(const std::vector<std::string> &lineasPlanas) {
+std::string TextoProtegido(const std::vector<std::string>& lineasPlanas) {
     std::vector<std::string> codificadas;
     codificadas.reserve(lineasPlanas.size());
-    for (const auto &linea : lineasPlanas) {
+    for (const auto& linea : lineasPlanas) {
         codificadas.push_back(CodificarLinea(linea));
     }
     std::string bytes;
-    for (const auto &linea : DividirLineas(UnirLineas(codificadas))) {
+    for (const auto& linea : DividirLineas(UnirLineas(codificadas))) {
         bytes += linea;
         bytes += "\r\n\r\n";
     }
     return bytes;
 }
 
-std::string ProtegerArchivo(const std::string &ruta) {
+std::string ProtegerArchivo(const std::string& ruta) {
     const std::string plano = LeerArchivo(ruta);
     EscribirArchivo(ruta, TextoProtegido(DividirLineas(plano)));
     return ruta;
 }
 
-std::string RutaTemporal(const std::string &ruta) {
+std::string RutaTemporal(const std::string& ruta) {
     const std::string normal = NormalizarRuta(ruta);
     const std::filesystem::path camino(std::u8string(normal.begin(), normal.end()));
     const std::u8string base = camino.stem().u8string();
@@ -63,14 +63,14 @@ std::string RutaTemporal(const std::string &ruta) {
                     std::string(base.begin(), base.end()) + ".$$$");
 }
 
-std::vector<std::string> LineasPlanas(const std::string &bytes) {
+std::vector<std::string> LineasPlanas(const std::string& bytes) {
     std::vector<std::string> lineas = DividirLineas(bytes);
     if (lineas.empty() || EsTextoPlano(lineas)) {
         return lineas;
     }
     std::vector<std::string> planas;
     planas.reserve(lineas.size() / 2 + 1);
-    for (const auto &linea : lineas) {
+    for (const auto& linea : lineas) {
         if (!linea.empty()) {
             planas.push_back(DecodificarLinea(linea));
         }
@@ -78,7 +78,7 @@ std::vector<std::string> LineasPlanas(const std::string &bytes) {
     return planas;
 }
 
-std::string RecuperarArchivo(const std::string &ruta) {
+std::string RecuperarArchivo(const std::string& ruta) {
     const std::string temporal = RutaTemporal(ruta);
     EscribirArchivo(temporal, UnirLineas(LineasPlanas(LeerArchivo(ruta))));
     return temporal;

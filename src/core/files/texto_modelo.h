@@ -12,45 +12,52 @@ namespace vadro {
 // read. Readers ask for their keys in the order of writing, so each costs about one line.
 class ArchivoEntrada {
 public:
-    ArchivoEntrada() = default;
+    ArchivoEntrada() : ArchivoEntrada(std::vector<std::string>{}) {}
     explicit ArchivoEntrada(std::vector<std::string> lineasOchoBits, std::string temporal = {});
 
     // Opens a complete file as its plain text: the scrambled form is decoded into a temporary
     // file in the program directory, which the reader deletes when it is done.
-    static ArchivoEntrada Abrir(const std::string &ruta);
+    static ArchivoEntrada Abrir(const std::string& ruta);
 
     bool FinArchivo() const { return posicion_ >= lineas_.size(); }
     std::size_t Posicion() const { return posicion_; }
     void IrA(std::size_t posicion) { posicion_ = posicion; }
     // The next line; reading past the end is runtime error 62.
-    const std::string &LeerLinea();
+    const std::string& LeerLinea();
 
-    const std::vector<std::string> &Lineas() const { return lineas_; }
+    const std::vector<std::string>& Lineas() const { return lineas_; }
 
     // Deletes the temporary file of the plain text, if any.
     void BorrarTemporal();
+
+    // Charges the work of one search: the lines it read, and one for the search itself. A
+    // file read in the order of writing costs about one line per key; a broken or hostile
+    // file whose counts ask for far more values than it holds runs out of budget, which is
+    // runtime error 62, instead of loading for hours.
+    void CobrarBusqueda(std::size_t lineasLeidas);
 
 private:
     std::vector<std::string> lineas_;
     std::size_t posicion_ = 0;
     std::string temporal_;
+    std::size_t presupuesto_ = 0;
 };
 
 // The value of a key, searched from the current position onwards and then once from the
 // start up to where the search began. The key may stand anywhere in a line; the value is what
 // follows the line's last "=" (the very last character is not examined), trimmed. A missing key
 // gives the empty text and leaves the position as it was.
-ValorLibre BuscarValor(ArchivoEntrada &archivo, const std::string &clave);
+ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave);
 
 // The lines of a file about to be written, kept in 8-bit text.
 class ArchivoSalida {
 public:
     // One line of UTF-8 text.
-    void Escribir(const std::string &linea);
+    void Escribir(const std::string& linea);
     // A value line: key, " = ", value.
-    void Escribir(const std::string &clave, const std::string &valor);
+    void Escribir(const std::string& clave, const std::string& valor);
 
-    const std::vector<std::string> &Lineas() const { return lineas_; }
+    const std::vector<std::string>& Lineas() const { return lineas_; }
     std::size_t Tamano() const { return lineas_.size(); }
 
 private:
@@ -59,12 +66,12 @@ private:
 
 // Writes the lines as a complete file, scrambled; the previous file is replaced only when
 // the new one is whole.
-void EscribirCompleto(const std::string &ruta, const ArchivoSalida &salida);
+void EscribirCompleto(const std::string& ruta, const ArchivoSalida& salida);
 
 // Appends the lines as plain text to a file, as a section that is part of a larger file.
-void AnadirSeccion(const std::string &ruta, const ArchivoSalida &salida);
+void AnadirSeccion(const std::string& ruta, const ArchivoSalida& salida);
 
 // Where a section's lines go: a complete file of its own, or the end of a larger one.
-void GuardarSeccion(const std::string &ruta, const ArchivoSalida &salida, bool anadir);
+void GuardarSeccion(const std::string& ruta, const ArchivoSalida& salida, bool anadir);
 
 } // namespace vadro

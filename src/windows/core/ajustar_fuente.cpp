@@ -22,44 +22,44 @@ namespace vadro {
 
 namespace {
 
-std::optional<ClaseControl> ClaseDe(const QWidget *w) {
-    if (qobject_cast<const QLabel *>(w) != nullptr) {
+std::optional<ClaseControl> ClaseDe(const QWidget* w) {
+    if (qobject_cast<const QLabel*>(w) != nullptr) {
         return ClaseControl::Etiqueta;
     }
-    if (qobject_cast<const QLineEdit *>(w) != nullptr ||
-        qobject_cast<const QTextEdit *>(w) != nullptr ||
-        qobject_cast<const QPlainTextEdit *>(w) != nullptr) {
+    if (qobject_cast<const QLineEdit*>(w) != nullptr ||
+        qobject_cast<const QTextEdit*>(w) != nullptr ||
+        qobject_cast<const QPlainTextEdit*>(w) != nullptr) {
         return ClaseControl::CuadroTexto;
     }
-    if (qobject_cast<const QComboBox *>(w) != nullptr) {
+    if (qobject_cast<const QComboBox*>(w) != nullptr) {
         return ClaseControl::Combo;
     }
-    if (qobject_cast<const QGroupBox *>(w) != nullptr) {
+    if (qobject_cast<const QGroupBox*>(w) != nullptr) {
         return ClaseControl::Marco;
     }
-    if (qobject_cast<const QPushButton *>(w) != nullptr) {
+    if (qobject_cast<const QPushButton*>(w) != nullptr) {
         return ClaseControl::Boton;
     }
-    if (qobject_cast<const QCheckBox *>(w) != nullptr) {
+    if (qobject_cast<const QCheckBox*>(w) != nullptr) {
         return ClaseControl::Casilla;
     }
-    if (qobject_cast<const QTableView *>(w) != nullptr) {
+    if (qobject_cast<const QTableView*>(w) != nullptr) {
         return ClaseControl::Cuadricula;
     }
-    if (qobject_cast<const QTreeView *>(w) != nullptr) {
+    if (qobject_cast<const QTreeView*>(w) != nullptr) {
         return ClaseControl::Arbol;
     }
     return std::nullopt;
 }
 
 // A line edit inside a combo box or a spin box belongs to that control, not to the window.
-bool EsParteDeOtroControl(const QWidget *w) {
-    const QWidget *padre = w->parentWidget();
-    return padre != nullptr && (qobject_cast<const QComboBox *>(padre) != nullptr ||
-                                qobject_cast<const QAbstractSpinBox *>(padre) != nullptr);
+bool EsParteDeOtroControl(const QWidget* w) {
+    const QWidget* padre = w->parentWidget();
+    return padre != nullptr && (qobject_cast<const QComboBox*>(padre) != nullptr ||
+                                qobject_cast<const QAbstractSpinBox*>(padre) != nullptr);
 }
 
-void Aplicar(QWidget &control, ClaseControl clase, int tamanoFuente) {
+void Aplicar(QWidget& control, ClaseControl clase, int tamanoFuente) {
     const MedidaFuente medida = MedidasFuente(clase, tamanoFuente);
     QFont fuente = control.font();
     fuente.setFamily(Q(kNombreFuente));
@@ -75,12 +75,12 @@ void Aplicar(QWidget &control, ClaseControl clase, int tamanoFuente) {
 
 } // namespace
 
-void AjustarFuente(QWidget &ventana) {
+void AjustarFuente(QWidget& ventana) {
     AjustarFuente(ventana, SesionActual().configuracion.TamanoFuente);
 }
 
-void AjustarFuente(QWidget &ventana, int tamanoFuente) {
-    for (QWidget *control : ventana.findChildren<QWidget *>()) {
+void AjustarFuente(QWidget& ventana, int tamanoFuente) {
+    for (QWidget* control : ventana.findChildren<QWidget*>()) {
         const auto clase = ClaseDe(control);
         if (clase && !EsParteDeOtroControl(control)) {
             Aplicar(*control, *clase, tamanoFuente);

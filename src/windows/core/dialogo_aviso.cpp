@@ -10,13 +10,13 @@
 
 namespace vadro {
 
-DialogoAviso::DialogoAviso(const QStringList &textos, std::function<void(bool mostrar)> alMarcar,
-                           bool conCancelar, QWidget *padre)
+DialogoAviso::DialogoAviso(const QStringList& textos, std::function<void(bool mostrar)> alMarcar,
+                           bool conCancelar, QWidget* padre)
     : QDialog(padre) {
     setWindowTitle(Q("VADRO PROGRAMADOR"));
-    auto *columna = new QVBoxLayout(this);
-    for (const QString &texto : textos) {
-        auto *etiqueta = new QLabel(texto, this);
+    auto* columna = new QVBoxLayout(this);
+    for (const QString& texto : textos) {
+        auto* etiqueta = new QLabel(texto, this);
         etiqueta->setWordWrap(true);
         etiqueta->setTextInteractionFlags(Qt::TextSelectableByMouse);
         etiquetas << etiqueta;
@@ -26,7 +26,7 @@ DialogoAviso::DialogoAviso(const QStringList &textos, std::function<void(bool mo
     chkAviso->setObjectName(Q("chkAviso"));
     columna->addWidget(chkAviso);
 
-    auto *botones = new QHBoxLayout;
+    auto* botones = new QHBoxLayout;
     botones->addStretch();
     cmdAceptar = new QPushButton(Q("Aceptar"), this);
     cmdAceptar->setObjectName(Q("cmdAceptar"));

@@ -18,16 +18,16 @@ namespace vadro {
 class DialogoAviso : public QDialog, public Ventana {
     Q_OBJECT
 public:
-    DialogoAviso(const QStringList &textos, std::function<void(bool mostrar)> alMarcar,
-                 bool conCancelar, QWidget *padre);
+    DialogoAviso(const QStringList& textos, std::function<void(bool mostrar)> alMarcar,
+                 bool conCancelar, QWidget* padre);
 
     // The font size of the preferences does not apply to the notices.
     void AjustarControles() override {}
 
-    QCheckBox *chkAviso;
-    QPushButton *cmdAceptar;
-    QPushButton *cmdCancelar = nullptr;
-    QList<QLabel *> etiquetas;
+    QCheckBox* chkAviso;
+    QPushButton* cmdAceptar;
+    QPushButton* cmdCancelar = nullptr;
+    QList<QLabel*> etiquetas;
 
 protected:
     void done(int resultado) override;

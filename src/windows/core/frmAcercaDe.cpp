@@ -10,10 +10,10 @@
 
 namespace vadro {
 
-frmAcercaDe::frmAcercaDe(QWidget *padre) : QDialog(padre) {
+frmAcercaDe::frmAcercaDe(QWidget* padre) : QDialog(padre) {
     setObjectName(Q("frmAcercaDe"));
     setWindowTitle(Q("Acerca de Vadro Programador"));
-    auto *producto = new QLabel(Q("VADRO\nHerramienta de ayuda a la decisión multicriterio"), this);
+    auto* producto = new QLabel(Q("VADRO\nHerramienta de ayuda a la decisión multicriterio"), this);
     producto->setObjectName(Q("lblProducto"));
     QFont grande = producto->font();
     grande.setPointSize(grande.pointSize() + 4);
@@ -34,12 +34,12 @@ frmAcercaDe::frmAcercaDe(QWidget *padre) : QDialog(padre) {
     cmdAceptar->setObjectName(Q("cmdAceptar"));
     cmdAceptar->setDefault(true);
 
-    auto *botones = new QHBoxLayout;
+    auto* botones = new QHBoxLayout;
     botones->addStretch();
     botones->addWidget(cmdAceptar);
-    auto *columna = new QVBoxLayout(this);
-    for (QWidget *w :
-         std::initializer_list<QWidget *>{producto, lblModulo, lblVersion, lblDisclaimer}) {
+    auto* columna = new QVBoxLayout(this);
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{producto, lblModulo, lblVersion, lblDisclaimer}) {
         columna->addWidget(w);
     }
     columna->addLayout(botones);

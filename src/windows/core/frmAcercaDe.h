@@ -12,13 +12,13 @@ namespace vadro {
 class frmAcercaDe : public QDialog, public Ventana {
     Q_OBJECT
 public:
-    explicit frmAcercaDe(QWidget *padre = nullptr);
+    explicit frmAcercaDe(QWidget* padre = nullptr);
     void AjustarControles() override {}
 
-    QLabel *lblModulo;
-    QLabel *lblVersion;
-    QLabel *lblDisclaimer;
-    QPushButton *cmdAceptar;
+    QLabel* lblModulo;
+    QLabel* lblVersion;
+    QLabel* lblDisclaimer;
+    QPushButton* cmdAceptar;
 };
 
 } // namespace vadro

@@ -6,7 +6,7 @@
 
 namespace vadro {
 
-frmAvisoFuncionValor::frmAvisoFuncionValor(bool &mostrarAviso, QWidget *padre)
+frmAvisoFuncionValor::frmAvisoFuncionValor(bool& mostrarAviso, QWidget* padre)
     : DialogoAviso(
           {Q("Introducir valores de límites y de satisfacción para obtener la "
              "representación gráfica.")},

@@ -9,7 +9,7 @@ namespace vadro {
 class frmAvisoFuncionValor : public DialogoAviso {
     Q_OBJECT
 public:
-    frmAvisoFuncionValor(bool &mostrarAviso, QWidget *padre = nullptr);
+    frmAvisoFuncionValor(bool& mostrarAviso, QWidget* padre = nullptr);
 };
 
 } // namespace vadro

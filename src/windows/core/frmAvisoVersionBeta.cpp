@@ -7,7 +7,7 @@
 
 namespace vadro {
 
-frmAvisoVersionBeta::frmAvisoVersionBeta(QWidget *padre)
+frmAvisoVersionBeta::frmAvisoVersionBeta(QWidget* padre)
     : DialogoAviso(
           {Q("Esta aplicación se encuentra en desarrollo, por lo que pueden aparecer errores."),
            Q("Se recomienda guardar los cambios con regularidad e informar de los errores a los "

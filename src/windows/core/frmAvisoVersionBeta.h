@@ -8,10 +8,10 @@ namespace vadro {
 class frmAvisoVersionBeta : public DialogoAviso {
     Q_OBJECT
 public:
-    explicit frmAvisoVersionBeta(QWidget *padre = nullptr);
+    explicit frmAvisoVersionBeta(QWidget* padre = nullptr);
 };
 
 // The address where users report errors and look for updates.
-inline const char *const kDireccionWeb = "https://vadro.example.org";
+inline const char* const kDireccionWeb = "https://vadro.example.org";
 
 } // namespace vadro

@@ -6,7 +6,7 @@
 
 namespace vadro {
 
-frmConfirmacion::frmConfirmacion(bool &mostrarConfirmacion, QWidget *padre)
+frmConfirmacion::frmConfirmacion(bool& mostrarConfirmacion, QWidget* padre)
     : DialogoAviso(
           {Q("¿Está seguro que quiere reducir el número de intervalos?  Los datos "
              "correspondientes a los últimos se perderán.")},

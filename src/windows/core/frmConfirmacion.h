@@ -9,7 +9,7 @@ namespace vadro {
 class frmConfirmacion : public DialogoAviso {
     Q_OBJECT
 public:
-    frmConfirmacion(bool &mostrarConfirmacion, QWidget *padre = nullptr);
+    frmConfirmacion(bool& mostrarConfirmacion, QWidget* padre = nullptr);
 };
 
 } // namespace vadro

@@ -14,14 +14,14 @@ namespace vadro {
 
 namespace {
 
-frmInicio *&Instancia() {
-    static frmInicio *abierto = nullptr;
+frmInicio*& Instancia() {
+    static frmInicio* abierto = nullptr;
     return abierto;
 }
 
-QPushButton *BotonConImagen(QWidget *padre, const char *nombre, const char *texto,
+QPushButton* BotonConImagen(QWidget* padre, const char* nombre, const char* texto,
                             QStyle::StandardPixmap imagen) {
-    auto *boton = new QPushButton(padre->style()->standardIcon(imagen), Q(texto), padre);
+    auto* boton = new QPushButton(padre->style()->standardIcon(imagen), Q(texto), padre);
     boton->setObjectName(Q(nombre));
     boton->setIconSize(QSize(48, 48));
     boton->setMinimumSize(160, 90);
@@ -30,17 +30,17 @@ QPushButton *BotonConImagen(QWidget *padre, const char *nombre, const char *text
 
 } // namespace
 
-frmInicio::frmInicio(std::function<void()> nuevo, std::function<void()> abrir, QWidget *padre)
+frmInicio::frmInicio(std::function<void()> nuevo, std::function<void()> abrir, QWidget* padre)
     : QDialog(padre) {
     setObjectName(Q("frmInicio"));
     setWindowTitle(Q("Iniciar Vadro Programador"));
-    auto *iniciar = new QLabel(Q("INICIAR"), this);
+    auto* iniciar = new QLabel(Q("INICIAR"), this);
     iniciar->setObjectName(Q("lblIniciar"));
     QFont grande = iniciar->font();
     grande.setPointSize(20);
     grande.setBold(true);
     iniciar->setFont(grande);
-    auto *programador = new QLabel(Q("programador"), this);
+    auto* programador = new QLabel(Q("programador"), this);
     programador->setObjectName(Q("lblProgramador"));
     cmdNuevo = BotonConImagen(this, "cmdNuevo", "NUEVO", QStyle::SP_FileIcon);
     cmdExistente = BotonConImagen(this, "cmdExistente", "EXISTENTE", QStyle::SP_DialogOpenButton);
@@ -48,7 +48,7 @@ frmInicio::frmInicio(std::function<void()> nuevo, std::function<void()> abrir, Q
     chkNoMostrar->setObjectName(Q("chkNoMostrar"));
     chkNoMostrar->setChecked(!SesionActual().configuracion.MostrarInicio);
 
-    auto *rejilla = new QGridLayout(this);
+    auto* rejilla = new QGridLayout(this);
     rejilla->addWidget(iniciar, 0, 0);
     rejilla->addWidget(programador, 1, 0);
     rejilla->addWidget(cmdNuevo, 2, 0);
@@ -69,12 +69,12 @@ frmInicio::~frmInicio() {
     }
 }
 
-frmInicio *frmInicio::Abierto() {
-    frmInicio *abierto = Instancia();
+frmInicio* frmInicio::Abierto() {
+    frmInicio* abierto = Instancia();
     return abierto != nullptr && abierto->Cargado ? abierto : nullptr;
 }
 
-void frmInicio::showEvent(QShowEvent *evento) {
+void frmInicio::showEvent(QShowEvent* evento) {
     QDialog::showEvent(evento);
     cmdNuevo->setFocus();
 }

@@ -16,17 +16,17 @@ namespace vadro {
 
 namespace {
 
-template <typename W> W *Nombrado(W *control, const char *nombre) {
+template <typename W> W* Nombrado(W* control, const char* nombre) {
     control->setObjectName(Q(nombre));
     return control;
 }
 
 } // namespace
 
-frmPreferencias::frmPreferencias(QWidget *padre) : QDialog(padre) {
+frmPreferencias::frmPreferencias(QWidget* padre) : QDialog(padre) {
     setObjectName(Q("frmPreferencias"));
     setWindowTitle(Q("Preferencias"));
-    const Configuracion &c = SesionActual().configuracion;
+    const Configuracion& c = SesionActual().configuracion;
 
     chkMostrarInicio = Nombrado(new QCheckBox(Q("Mostrar pantalla de selección inicial"), this),
                                 "chkMostrarInicio");
@@ -40,15 +40,15 @@ frmPreferencias::frmPreferencias(QWidget *padre) : QDialog(padre) {
     cmdCancelar = Nombrado(new QPushButton(Q("Cancelar"), this), "cmdCancelar");
     cmdAceptar->setDefault(true);
 
-    auto *formulario = new QFormLayout;
+    auto* formulario = new QFormLayout;
     formulario->addRow(Nombrado(new QLabel(Q("Tamaño de letra"), this), "lblTamañoFuente"),
                        cbbTamañoFuente);
     formulario->addRow(Nombrado(new QLabel(Q("Idioma"), this), "lblIdioma"), cbbIdioma);
-    auto *botones = new QHBoxLayout;
+    auto* botones = new QHBoxLayout;
     botones->addStretch();
     botones->addWidget(cmdAceptar);
     botones->addWidget(cmdCancelar);
-    auto *columna = new QVBoxLayout(this);
+    auto* columna = new QVBoxLayout(this);
     columna->addWidget(chkMostrarInicio);
     columna->addWidget(chkVersionBeta);
     columna->addLayout(formulario);
@@ -72,7 +72,7 @@ void frmPreferencias::AjustarControles() {
 }
 
 void frmPreferencias::cmdAceptar_Click() {
-    Sesion &sesion = SesionActual();
+    Sesion& sesion = SesionActual();
     GuardarMostrarInicio(sesion, chkMostrarInicio->isChecked());
     GuardarMostrarAvisoBeta(sesion, chkVersionBeta->isChecked());
     // A size the list cannot show (a hand-edited file) stays as it is unless one is chosen.

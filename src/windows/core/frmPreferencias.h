@@ -13,15 +13,15 @@ namespace vadro {
 class frmPreferencias : public QDialog, public Ventana {
     Q_OBJECT
 public:
-    explicit frmPreferencias(QWidget *padre = nullptr);
+    explicit frmPreferencias(QWidget* padre = nullptr);
     void AjustarControles() override;
 
-    QCheckBox *chkMostrarInicio;
-    QCheckBox *chkVersionBeta;
-    QComboBox *cbbTamañoFuente;
-    QComboBox *cbbIdioma;
-    QPushButton *cmdAceptar;
-    QPushButton *cmdCancelar;
+    QCheckBox* chkMostrarInicio;
+    QCheckBox* chkVersionBeta;
+    QComboBox* cbbTamañoFuente;
+    QComboBox* cbbIdioma;
+    QPushButton* cmdAceptar;
+    QPushButton* cmdCancelar;
 
     void cmdAceptar_Click();
 

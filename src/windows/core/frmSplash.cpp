@@ -7,13 +7,13 @@
 
 namespace vadro {
 
-frmSplash::frmSplash(QWidget *padre) : QWidget(padre, Qt::SplashScreen | Qt::FramelessWindowHint) {
+frmSplash::frmSplash(QWidget* padre) : QWidget(padre, Qt::SplashScreen | Qt::FramelessWindowHint) {
     setObjectName(Q("frmSplash"));
-    auto *columna = new QVBoxLayout(this);
+    auto* columna = new QVBoxLayout(this);
     columna->setContentsMargins(40, 30, 40, 30);
-    auto etiqueta = [this, columna](const char *nombre, const char *texto, int puntos,
+    auto etiqueta = [this, columna](const char* nombre, const char* texto, int puntos,
                                     bool negrita) {
-        auto *l = new QLabel(Q(texto), this);
+        auto* l = new QLabel(Q(texto), this);
         l->setObjectName(Q(nombre));
         l->setAlignment(Qt::AlignCenter);
         QFont f = l->font();

@@ -10,7 +10,7 @@ namespace vadro {
 class frmSplash : public QWidget, public Ventana {
     Q_OBJECT
 public:
-    explicit frmSplash(QWidget *padre = nullptr);
+    explicit frmSplash(QWidget* padre = nullptr);
     void AjustarControles() override {}
 };
 

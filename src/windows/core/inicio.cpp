@@ -37,7 +37,7 @@ bool Arranque::PreguntarSiHayOtraInstancia() {
 }
 
 bool Arranque::Iniciar() {
-    Sesion &sesion = SesionActual();
+    Sesion& sesion = SesionActual();
     sesion.configuracion.ModoLineaComandos = false;
     if (!PreguntarSiHayOtraInstancia()) {
         return false;
@@ -53,7 +53,7 @@ bool Arranque::Iniciar() {
         frmAvisoVersionBeta aviso;
         MostrarModal(aviso);
     }
-    if (const QScreen *pantalla = QGuiApplication::primaryScreen()) {
+    if (const QScreen* pantalla = QGuiApplication::primaryScreen()) {
         principal_->setGeometry(pantalla->availableGeometry());
     }
     principal_->show();
@@ -67,7 +67,7 @@ bool Arranque::Iniciar() {
     return true;
 }
 
-int Main(int argc, char *argv[]) {
+int Main(int argc, char* argv[]) {
     if (argc > 1) {
         SesionActual().configuracion.ModoLineaComandos = true;
         return 0;
@@ -81,7 +81,7 @@ int Main(int argc, char *argv[]) {
         if (!arranque.Iniciar()) {
             return 0;
         }
-    } catch (const ErrorEjecucion &error) {
+    } catch (const ErrorEjecucion& error) {
         MsgBox(TextoErrorEjecucion(error), Botones::Aceptar, Icono::Critico, "VADRO PROGRAMADOR");
         return 1;
     }

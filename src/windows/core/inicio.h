@@ -11,7 +11,7 @@ class frmPrincipal;
 class frmSplash;
 
 // The start of the process. A command line that is not empty ends it at once, silently.
-int Main(int argc, char *argv[]);
+int Main(int argc, char* argv[]);
 
 // The steps of the start after the command line has been looked at, in their order.
 class Arranque {
@@ -25,8 +25,8 @@ public:
     // Runs the start; false when the process must end (a second instance refused).
     bool Iniciar();
 
-    frmPrincipal *Principal() const { return principal_.get(); }
-    frmSplash *Splash() const { return splash_.get(); }
+    frmPrincipal* Principal() const { return principal_.get(); }
+    frmSplash* Splash() const { return splash_.get(); }
 
 private:
     bool PreguntarSiHayOtraInstancia();

@@ -8,14 +8,14 @@ namespace vadro {
 
 namespace {
 
-ConductorModal &Conductor() {
+ConductorModal& Conductor() {
     static ConductorModal conductor;
     return conductor;
 }
 
 } // namespace
 
-int MostrarModal(QDialog &dialogo) {
+int MostrarModal(QDialog& dialogo) {
     if (!Conductor()) {
         return dialogo.exec();
     }

@@ -30,7 +30,7 @@ QMessageBox::Icon IconoQt(Icono icono) {
 }
 
 struct BotonMensaje {
-    const char *texto;
+    const char* texto;
     QMessageBox::ButtonRole papel;
     Respuesta respuesta;
 };
@@ -53,17 +53,17 @@ std::vector<BotonMensaje> BotonesDe(Botones botones) {
     return {aceptar};
 }
 
-Respuesta MostrarMensajeQt(const Mensaje &mensaje) {
+Respuesta MostrarMensajeQt(const Mensaje& mensaje) {
     QMessageBox caja(IconoQt(mensaje.icono), Q(mensaje.titulo), Q(mensaje.texto),
                      QMessageBox::NoButton, QApplication::activeWindow());
     const auto botones = BotonesDe(mensaje.botones);
-    std::vector<std::pair<QAbstractButton *, Respuesta>> respuestas;
-    for (const auto &boton : botones) {
+    std::vector<std::pair<QAbstractButton*, Respuesta>> respuestas;
+    for (const auto& boton : botones) {
         respuestas.emplace_back(caja.addButton(Q(boton.texto), boton.papel), boton.respuesta);
     }
-    caja.setDefaultButton(qobject_cast<QPushButton *>(respuestas.front().first));
+    caja.setDefaultButton(qobject_cast<QPushButton*>(respuestas.front().first));
     caja.exec();
-    for (const auto &[boton, respuesta] : respuestas) {
+    for (const auto& [boton, respuesta] : respuestas) {
         if (caja.clickedButton() == boton) {
             return respuesta;
         }
@@ -74,7 +74,7 @@ Respuesta MostrarMensajeQt(const Mensaje &mensaje) {
                : (mensaje.botones == Botones::SiNo ? Respuesta::No : Respuesta::Cancelar);
 }
 
-std::optional<std::string> MostrarDialogoQt(const PeticionDialogo &peticion) {
+std::optional<std::string> MostrarDialogoQt(const PeticionDialogo& peticion) {
     QFileDialog dialogo(QApplication::activeWindow(), Q(peticion.titulo),
                         Q(peticion.directorioInicial));
     const bool guardar = peticion.tipo == TipoDialogo::Guardar;
@@ -99,7 +99,7 @@ std::optional<std::string> MostrarDialogoQt(const PeticionDialogo &peticion) {
 
 } // namespace
 
-QStringList FiltrosQt(const QString &filtro) {
+QStringList FiltrosQt(const QString& filtro) {
     const QStringList partes = filtro.split(QLatin1Char('|'));
     QStringList filtros;
     for (qsizetype i = 0; i + 1 < partes.size(); i += 2) {

@@ -8,6 +8,6 @@ namespace vadro {
 void InstalarServiciosQt();
 
 // A filter in the "Description|pattern|Description|pattern" form as Qt's file dialog wants it.
-QStringList FiltrosQt(const QString &filtro);
+QStringList FiltrosQt(const QString& filtro);
 
 } // namespace vadro

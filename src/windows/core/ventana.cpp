@@ -6,8 +6,8 @@
 namespace vadro {
 
 void AjustarVentanasAbiertas() {
-    for (QWidget *widget : QApplication::allWidgets()) {
-        if (auto *ventana = dynamic_cast<Ventana *>(widget);
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (auto* ventana = dynamic_cast<Ventana*>(widget);
             ventana != nullptr && ventana->Cargado) {
             ventana->AjustarControles();
         }

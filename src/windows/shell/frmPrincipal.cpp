@@ -17,21 +17,21 @@ namespace vadro {
 
 namespace {
 
-QAction *Entrada(QMenu *menu, const char *nombre, const char *texto) {
-    QAction *accion = menu->addAction(Q(texto));
+QAction* Entrada(QMenu* menu, const char* nombre, const char* texto) {
+    QAction* accion = menu->addAction(Q(texto));
     accion->setObjectName(Q(nombre));
     return accion;
 }
 
-QMenu *Menu(QMenuBar *barra, const char *nombre, const char *texto) {
-    QMenu *menu = barra->addMenu(Q(texto));
+QMenu* Menu(QMenuBar* barra, const char* nombre, const char* texto) {
+    QMenu* menu = barra->addMenu(Q(texto));
     menu->setObjectName(Q(nombre));
     return menu;
 }
 
 } // namespace
 
-frmPrincipal::frmPrincipal(QWidget *padre) : QMainWindow(padre) {
+frmPrincipal::frmPrincipal(QWidget* padre) : QMainWindow(padre) {
     setObjectName(Q("frmPrincipal"));
     setWindowTitle(Q("VADRO PROGRAMADOR"));
     pctFondo = new QMdiArea(this);
@@ -57,7 +57,7 @@ frmPrincipal::frmPrincipal(QWidget *padre) : QMainWindow(padre) {
 
     // The window never starts larger than the screen.
     resize(1024, 720);
-    if (const QScreen *pantalla = QGuiApplication::primaryScreen()) {
+    if (const QScreen* pantalla = QGuiApplication::primaryScreen()) {
         resize(size().boundedTo(pantalla->geometry().size()));
     }
     Cargado = true;
@@ -77,12 +77,12 @@ void frmPrincipal::Abrir() {
 }
 
 void frmPrincipal::CerrarPantallaInicio() {
-    if (frmInicio *inicio = frmInicio::Abierto()) {
+    if (frmInicio* inicio = frmInicio::Abierto()) {
         inicio->close();
     }
 }
 
-void frmPrincipal::closeEvent(QCloseEvent *evento) {
+void frmPrincipal::closeEvent(QCloseEvent* evento) {
     Cargado = false;
     QMainWindow::closeEvent(evento);
 }

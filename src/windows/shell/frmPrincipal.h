@@ -14,7 +14,7 @@ namespace vadro {
 class frmPrincipal : public QMainWindow, public Ventana {
     Q_OBJECT
 public:
-    explicit frmPrincipal(QWidget *padre = nullptr);
+    explicit frmPrincipal(QWidget* padre = nullptr);
     void AjustarControles() override;
 
     // The model commands that the start screen leads to.
@@ -24,15 +24,15 @@ public:
     // Whether the notice before the first function drawing shows; for this session only.
     bool MostrarAvisoFuncionValor = true;
 
-    QMdiArea *pctFondo;
-    QMenu *mnuArchivo;
-    QAction *mnuPreferencias;
-    QAction *mnuSalir;
-    QMenu *mnuAyuda;
-    QAction *mnuAcercaDe;
+    QMdiArea* pctFondo;
+    QMenu* mnuArchivo;
+    QAction* mnuPreferencias;
+    QAction* mnuSalir;
+    QMenu* mnuAyuda;
+    QAction* mnuAcercaDe;
 
 protected:
-    void closeEvent(QCloseEvent *evento) override;
+    void closeEvent(QCloseEvent* evento) override;
 
 private:
     void CerrarPantallaInicio();

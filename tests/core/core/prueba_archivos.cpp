@@ -42,7 +42,7 @@ TEST(Lineas, EveryLineEndCountsOnce) {
 TEST_F(Archivos, AFailedWriteLeavesThePreviousFileIntact) {
     const std::string ruta = Ruta("modelo.vdm");
     Escribir(ruta, "antes");
-    sesion().servicios.durante_escritura = [](const std::string &) {
+    sesion().servicios.durante_escritura = [](const std::string&) {
         throw ErrorEjecucion(ErrDiscoLleno);
     };
     EXPECT_THROW(EscribirArchivo(ruta, "despues"), ErrorEjecucion);
@@ -58,13 +58,13 @@ TEST_F(Archivos, FailuresAreRuntimeErrors) {
     try {
         (void)LeerArchivo(Ruta("no-esta.vdm"));
         FAIL();
-    } catch (const ErrorEjecucion &e) {
+    } catch (const ErrorEjecucion& e) {
         EXPECT_EQ(e.Numero(), ErrArchivoNoEncontrado);
     }
     try {
         EscribirArchivo(Ruta("no-existe/modelo.vdm"), "x");
         FAIL();
-    } catch (const ErrorEjecucion &e) {
+    } catch (const ErrorEjecucion& e) {
         EXPECT_EQ(e.Numero(), ErrRutaNoEncontrada);
     }
 }

@@ -11,7 +11,7 @@ namespace {
 class Configuracion_ : public pruebas::PruebaSesion {
 protected:
     std::string ini = Ruta("Config.ini");
-    const Configuracion &c() { return sesion().configuracion; }
+    const Configuracion& c() { return sesion().configuracion; }
 };
 
 TEST_F(Configuracion_, AFirstStartWritesTheTwoDisplayKeysAndTheFontSize) {
@@ -58,7 +58,7 @@ TEST_F(Configuracion_, AFontSizeOutOfRangeIsTakenAndTextIsAConversionError) {
     try {
         CargarConfiguracion(sesion());
         FAIL() << "a font size that is no number stops the start";
-    } catch (const ErrorEjecucion &e) {
+    } catch (const ErrorEjecucion& e) {
         EXPECT_EQ(e.Numero(), ErrTipos);
     }
 }

@@ -9,7 +9,7 @@ namespace {
 class Ini : public pruebas::PruebaSesion {
 protected:
     std::string archivo = Ruta("Config.ini");
-    std::string Leer(const std::string &s, const std::string &k) {
+    std::string Leer(const std::string& s, const std::string& k) {
         return LeerIni(s, k, archivo).Texto();
     }
 };

@@ -6,11 +6,11 @@
 namespace vadro {
 namespace {
 
-Modelo ModeloConCriterios(const std::vector<ValorLibre> &subcriteriosPorCriterio) {
+Modelo ModeloConCriterios(const std::vector<ValorLibre>& subcriteriosPorCriterio) {
     Modelo m;
     m.NumRequerimientos = 1;
     m.Requerimientos.Redimensionar(1);
-    auto &r = m.Requerimientos(1);
+    auto& r = m.Requerimientos(1);
     r.NumCriterios = static_cast<int>(subcriteriosPorCriterio.size());
     r.Criterios.Redimensionar(static_cast<int>(subcriteriosPorCriterio.size()));
     for (int c = 1; c <= r.Criterios.Cota(); ++c) {
@@ -21,7 +21,7 @@ Modelo ModeloConCriterios(const std::vector<ValorLibre> &subcriteriosPorCriterio
 
 TEST(Registros, AFreshSessionHoldsTheEmptyModel) {
     ReiniciarSesion();
-    const Modelo &m = SesionActual().modelo;
+    const Modelo& m = SesionActual().modelo;
     EXPECT_TRUE(m.NumRequerimientos.EsVacio());
     EXPECT_FALSE(m.Requerimientos.Presente());
     EXPECT_TRUE(m.NumComponentes.EsVacio());

@@ -7,10 +7,10 @@
 namespace vadro {
 namespace {
 
-int NumeroDeError(const std::function<void()> &accion) {
+int NumeroDeError(const std::function<void()>& accion) {
     try {
         accion();
-    } catch (const ErrorEjecucion &e) {
+    } catch (const ErrorEjecucion& e) {
         return e.Numero();
     }
     return 0;

@@ -1,3 +1,4 @@
+#include "core/core/error_ejecucion.h"
 #include "core/files/formato.h"
 #include "core/files/texto_modelo.h"
 
@@ -6,7 +7,7 @@
 namespace vadro {
 namespace {
 
-std::string Buscar(ArchivoEntrada &archivo, const std::string &clave) {
+std::string Buscar(ArchivoEntrada& archivo, const std::string& clave) {
     return BuscarValor(archivo, clave).Texto();
 }
 
@@ -125,6 +126,28 @@ TEST(Formato, Booleans) {
     EXPECT_FALSE(LeerBooleanoArchivo(ValorLibre("verdadero")));
     EXPECT_FALSE(LeerBooleanoArchivo(ValorLibre("Sí")));
     EXPECT_FALSE(LeerBooleanoArchivo(ValorLibre()));
+}
+
+} // namespace
+} // namespace vadro
+
+namespace vadro {
+namespace {
+
+TEST(BuscarValor, AFileCannotAskForFarMoreSearchesThanItHasLines) {
+    ArchivoEntrada archivo({"A = 1", "B = 2"});
+    EXPECT_EQ(BuscarValor(archivo, "A").Texto(), "1");
+    long busquedas = 0;
+    try {
+        while (busquedas < 3000000) {
+            (void)BuscarValor(archivo, "Z");
+            ++busquedas;
+        }
+        FAIL() << "a hostile count would search for ever";
+    } catch (const ErrorEjecucion& e) {
+        EXPECT_EQ(e.Numero(), ErrFinArchivo);
+    }
+    EXPECT_GT(busquedas, 200000) << "a fair number of misses is allowed";
 }
 
 } // namespace

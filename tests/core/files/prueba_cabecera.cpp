@@ -130,7 +130,7 @@ TEST_F(Cabecera, PlainTextLoadsAndUnknownKeysAreSkipped) {
 }
 
 TEST_F(Cabecera, PermissionIsTrueOnlyForVerdaderoOrTrue) {
-    for (const auto &[texto, esperado] : std::vector<std::pair<std::string, bool>>{
+    for (const auto& [texto, esperado] : std::vector<std::pair<std::string, bool>>{
              {"Verdadero", true}, {"True", true}, {"true", false}, {"Sí", false}, {"", false}}) {
         Escribir(ruta, "*****MODELO*****\r\nMOD_PERM_USU_VER = " + texto + "\r\n");
         Modelo m;
@@ -162,7 +162,7 @@ TEST_F(Cabecera, AMissingFileIsRuntimeError53) {
     try {
         CargarModelo(m, Ruta("no-esta.vdm"));
         FAIL();
-    } catch (const ErrorEjecucion &e) {
+    } catch (const ErrorEjecucion& e) {
         EXPECT_EQ(e.Numero(), ErrArchivoNoEncontrado);
     }
 }
@@ -182,7 +182,7 @@ TEST_F(Cabecera, AFailureHalfwayLeavesThePreviousFileIntact) {
     const std::string anterior = Contenido(ruta);
     m.Nombre = "Otro";
     m.Modificado = true;
-    sesion().servicios.durante_escritura = [](const std::string &) {
+    sesion().servicios.durante_escritura = [](const std::string&) {
         throw ErrorEjecucion(ErrDiscoLleno);
     };
     mensajes.Esperar("VADRO: Error ", "Error 61 al guardar el modelo.\n\rDisco lleno");

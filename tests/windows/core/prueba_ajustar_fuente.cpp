@@ -18,29 +18,29 @@ namespace {
 
 struct VentanaDePrueba {
     QWidget ventana;
-    QLabel *etiqueta = new QLabel(QStringLiteral("l"), &ventana);
-    QLineEdit *texto = new QLineEdit(&ventana);
-    QComboBox *combo = new QComboBox(&ventana);
-    QGroupBox *marco = new QGroupBox(&ventana);
-    QPushButton *boton = new QPushButton(&ventana);
-    QCheckBox *casilla = new QCheckBox(&ventana);
-    QTableWidget *rejilla = new QTableWidget(&ventana);
-    QTreeWidget *arbol = new QTreeWidget(&ventana);
-    QSlider *otro = new QSlider(&ventana);
+    QLabel* etiqueta = new QLabel(QStringLiteral("l"), &ventana);
+    QLineEdit* texto = new QLineEdit(&ventana);
+    QComboBox* combo = new QComboBox(&ventana);
+    QGroupBox* marco = new QGroupBox(&ventana);
+    QPushButton* boton = new QPushButton(&ventana);
+    QCheckBox* casilla = new QCheckBox(&ventana);
+    QTableWidget* rejilla = new QTableWidget(&ventana);
+    QTreeWidget* arbol = new QTreeWidget(&ventana);
+    QSlider* otro = new QSlider(&ventana);
 
-    std::vector<QWidget *> DeLaTabla() const {
+    std::vector<QWidget*> DeLaTabla() const {
         return {etiqueta, texto, combo, marco, boton, casilla, rejilla, arbol};
     }
 };
 
 TEST(AjustarFuente, EveryControlOfTheTableTakesTheSizeOfTheClass) {
-    for (const auto &[clase, puntos, altoEtiqueta, altoTexto] :
+    for (const auto& [clase, puntos, altoEtiqueta, altoTexto] :
          std::vector<std::tuple<int, int, int, int>>{
              {0, 8, 255, 270}, {1, 10, 275, 315}, {2, 12, 295, 360}}) {
         VentanaDePrueba v;
         const int puntosOtro = v.otro->font().pointSize();
         AjustarFuente(v.ventana, clase);
-        for (QWidget *w : v.DeLaTabla()) {
+        for (QWidget* w : v.DeLaTabla()) {
             EXPECT_EQ(w->font().pointSize(), puntos) << w->metaObject()->className();
             EXPECT_EQ(w->font().family(), QStringLiteral("MS Sans Serif"));
         }

@@ -32,13 +32,13 @@ protected:
 };
 
 TEST_F(Arranque_, AFirstStartRunsEveryStepInItsOrder) {
-    modales.Esperar(QStringLiteral("frmAvisoVersionBeta"), [this](QDialog &aviso) {
+    modales.Esperar(QStringLiteral("frmAvisoVersionBeta"), [this](QDialog& aviso) {
         pasos.push_back("aviso");
         EXPECT_TRUE(arranque.Splash()->isVisible());
         EXPECT_FALSE(arranque.Principal()->isVisible()) << "full screen comes after the notice";
         pruebas::Hijo<QPushButton>(aviso, "cmdAceptar")->click();
     });
-    modales.Esperar(QStringLiteral("frmInicio"), [this](QDialog &inicio) {
+    modales.Esperar(QStringLiteral("frmInicio"), [this](QDialog& inicio) {
         pasos.push_back("inicio");
         EXPECT_TRUE(arranque.Principal()->isVisible());
         EXPECT_FALSE(arranque.Splash()->isVisible())
@@ -66,7 +66,7 @@ TEST_F(Arranque_, TheNoticeAndTheStartScreenFollowTheirKeys) {
 
 TEST_F(Arranque_, TheStartScreenLeadsToNuevoWhichClosesIt) {
     Escribir(Ruta("Config.ini"), "[GENERAL]\r\nMOSTRAR_AVISO_BETA=Falso\r\n");
-    modales.Esperar(QStringLiteral("frmInicio"), [](QDialog &inicio) {
+    modales.Esperar(QStringLiteral("frmInicio"), [](QDialog& inicio) {
         EXPECT_EQ(frmInicio::Abierto(), &inicio);
         pruebas::Hijo<QPushButton>(inicio, "cmdNuevo")->click();
         EXPECT_FALSE(inicio.isVisible());
@@ -86,8 +86,8 @@ TEST_F(Arranque_, ASecondInstanceIsOnlyAQuestion) {
     EXPECT_EQ(Contenido(Ruta("Config.ini")), "") << "the configuration is not even read";
 
     mensajes.Esperar("Proyecto VADRO", pregunta, Respuesta::Si);
-    modales.Esperar(QStringLiteral("frmAvisoVersionBeta"), [](QDialog &d) { d.accept(); });
-    modales.Esperar(QStringLiteral("frmInicio"), [](QDialog &d) { d.reject(); });
+    modales.Esperar(QStringLiteral("frmAvisoVersionBeta"), [](QDialog& d) { d.accept(); });
+    modales.Esperar(QStringLiteral("frmInicio"), [](QDialog& d) { d.reject(); });
     Arranque segunda;
     segunda.esperar = [](int) {};
     EXPECT_TRUE(segunda.Iniciar());
@@ -98,14 +98,14 @@ TEST_F(Arranque_, AFontSizeThatIsNoNumberStopsTheStart) {
     try {
         arranque.Iniciar();
         FAIL();
-    } catch (const ErrorEjecucion &e) {
+    } catch (const ErrorEjecucion& e) {
         EXPECT_EQ(e.Numero(), ErrTipos);
     }
     EXPECT_EQ(arranque.Principal(), nullptr);
 }
 
 TEST_F(Arranque_, AnyCommandLineEndsTheProgramSilently) {
-    for (const QString &argumento :
+    for (const QString& argumento :
          {QStringLiteral("x"), QStringLiteral("modelo.vdm"), QStringLiteral("--help")}) {
         QProcess programa;
         QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();

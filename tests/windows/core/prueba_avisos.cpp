@@ -22,12 +22,12 @@ using pruebas::Hijo;
 
 class Avisos : public pruebas::PruebaSesion {
 protected:
-    std::string Clave(const std::string &clave) {
+    std::string Clave(const std::string& clave) {
         return LeerIni("GENERAL", clave, Ruta("Config.ini")).Texto();
     }
 };
 
-QString Texto(const QObject &ventana, const char *nombre) {
+QString Texto(const QObject& ventana, const char* nombre) {
     return Hijo<QLabel>(ventana, nombre)->text();
 }
 
@@ -43,7 +43,7 @@ TEST_F(Avisos, TheDevelopmentNoticeShowsItsFourLabelsAndWritesItsKeyOnEachClick)
     EXPECT_EQ(Texto(aviso, "lblAviso4").toStdString(),
               "Es conveniente tener instalada la última versión disponible y efectuar un control "
               "regular de la web para posibles actualizaciones.");
-    auto *chk = Hijo<QCheckBox>(aviso, "chkAviso");
+    auto* chk = Hijo<QCheckBox>(aviso, "chkAviso");
     EXPECT_EQ(chk->text().toStdString(), "No volver a mostrar esta ventana.");
     chk->click();
     EXPECT_FALSE(sesion().configuracion.MostrarAvisoBeta);
@@ -77,13 +77,13 @@ TEST_F(Avisos, TheConfirmationAnswersWithItsButtons) {
     {
         pruebas::GuionModales modales;
         modales.Esperar(QStringLiteral("frmConfirmacion"),
-                        [](QDialog &d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
+                        [](QDialog& d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
         EXPECT_EQ(MostrarModal(confirmacion), QDialog::Rejected);
     }
     frmConfirmacion otra(mostrar);
     pruebas::GuionModales modales;
     modales.Esperar(QStringLiteral("frmConfirmacion"),
-                    [](QDialog &d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
+                    [](QDialog& d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
     EXPECT_EQ(MostrarModal(otra), QDialog::Accepted);
     EXPECT_FALSE(otra.Cargado) << "closing unloads it";
 }
@@ -103,7 +103,7 @@ TEST_F(Avisos, TheStartScreenCheckBoxWritesAtOnceAndTheButtonsLead) {
     EXPECT_EQ(inicio.windowTitle().toStdString(), "Iniciar Vadro Programador");
     EXPECT_EQ(Hijo<QPushButton>(inicio, "cmdNuevo")->text(), QStringLiteral("NUEVO"));
     EXPECT_EQ(Hijo<QPushButton>(inicio, "cmdExistente")->text(), QStringLiteral("EXISTENTE"));
-    auto *chk = Hijo<QCheckBox>(inicio, "chkNoMostrar");
+    auto* chk = Hijo<QCheckBox>(inicio, "chkNoMostrar");
     EXPECT_EQ(chk->text().toStdString(), "No mostrar este cuadro de diálogo en el futuro");
     EXPECT_FALSE(chk->isChecked());
     chk->click();

@@ -19,7 +19,7 @@ using pruebas::Hijo;
 
 class Preferencias : public pruebas::PruebaSesion {
 protected:
-    std::string Clave(const std::string &clave) {
+    std::string Clave(const std::string& clave) {
         return LeerIni("GENERAL", clave, Ruta("Config.ini")).Texto();
     }
 };
@@ -31,10 +31,10 @@ TEST_F(Preferencias, OpensWithTheSessionValues) {
     EXPECT_EQ(preferencias.windowTitle(), QStringLiteral("Preferencias"));
     EXPECT_FALSE(Hijo<QCheckBox>(preferencias, "chkMostrarInicio")->isChecked());
     EXPECT_TRUE(Hijo<QCheckBox>(preferencias, "chkVersionBeta")->isChecked());
-    auto *tamano = Hijo<QComboBox>(preferencias, "cbbTamañoFuente");
+    auto* tamano = Hijo<QComboBox>(preferencias, "cbbTamañoFuente");
     EXPECT_EQ(tamano->currentText().toStdString(), "Mediana");
     EXPECT_EQ(tamano->count(), 3);
-    auto *idioma = Hijo<QComboBox>(preferencias, "cbbIdioma");
+    auto* idioma = Hijo<QComboBox>(preferencias, "cbbIdioma");
     EXPECT_EQ(idioma->currentText().toStdString(), "Español");
     EXPECT_EQ(idioma->count(), 1);
 }
@@ -52,7 +52,7 @@ TEST_F(Preferencias, AceptarWritesBothKeysAndTheSizeOnlyWhenChanged) {
 TEST_F(Preferencias, ANewSizeIsAppliedToEveryOpenWindow) {
     frmPrincipal principal;
     frmPreferencias otra;
-    auto *etiquetaDeOtra = Hijo<QLabel>(otra, "lblIdioma");
+    auto* etiquetaDeOtra = Hijo<QLabel>(otra, "lblIdioma");
     EXPECT_EQ(etiquetaDeOtra->font().pointSize(), 8);
     frmPreferencias preferencias(&principal);
     Hijo<QComboBox>(preferencias, "cbbTamañoFuente")->setCurrentIndex(2);
@@ -92,11 +92,11 @@ TEST_F(Preferencias, TheMainWindowMenuOpensPreferencesModally) {
     EXPECT_EQ(principal.mnuAcercaDe->text().toStdString(), "&Acerca de...");
     pruebas::GuionModales modales;
     modales.Esperar(QStringLiteral("frmPreferencias"),
-                    [](QDialog &d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
+                    [](QDialog& d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
     modales.Esperar(QStringLiteral("frmAcercaDe"),
-                    [](QDialog &d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
-    principal.findChild<QAction *>(QStringLiteral("mnuPreferencias"))->trigger();
-    principal.findChild<QAction *>(QStringLiteral("mnuAcercaDe"))->trigger();
+                    [](QDialog& d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
+    principal.findChild<QAction*>(QStringLiteral("mnuPreferencias"))->trigger();
+    principal.findChild<QAction*>(QStringLiteral("mnuAcercaDe"))->trigger();
 }
 
 } // namespace
