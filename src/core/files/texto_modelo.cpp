@@ -11,7 +11,7 @@ namespace {
 
 // Searches a reader may make per line of its file, and a floor for small files.
 constexpr std::size_t kBusquedasPorLinea = 64;
-constexpr std::size_t kBusquedasMinimas = 1000000;
+constexpr std::size_t kBusquedasMinimas = 100000;
 
 } // namespace
 
