@@ -2,7 +2,9 @@
 
 #include "windows/core/texto.h"
 
+#include <QGuiApplication>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace vadro {
@@ -28,7 +30,15 @@ frmSplash::frmSplash(QWidget* padre) : QWidget(padre, Qt::SplashScreen | Qt::Fra
              "Herramienta de ayuda a la decisión multicriterio:\n"
              "diseño de modelos de requerimientos, indicadores y funciones de valor",
              10, false);
-    setStyleSheet(Q("frmSplash { background: #1f3a5f; } QLabel { color: white; }"));
+    QPalette colores = palette();
+    colores.setColor(QPalette::Window, QColor(0x1f, 0x3a, 0x5f));
+    colores.setColor(QPalette::WindowText, Qt::white);
+    setPalette(colores);
+    setAutoFillBackground(true);
+    adjustSize();
+    if (const QScreen* pantalla = QGuiApplication::primaryScreen()) {
+        move(pantalla->availableGeometry().center() - rect().center());
+    }
     Cargado = true;
 }
 
