@@ -85,7 +85,7 @@ std::string Formato00(double valor) {
     return FormatoDecimal(valor, 2);
 }
 
-std::string Formato00(const ValorLibre &valor) {
+std::string Formato00(const ValorLibre& valor) {
     if (valor.EsNumero()) {
         return Formato00(valor.Numero());
     }

@@ -19,7 +19,7 @@ std::string Formato00(double valor);
 
 // The same for a free value: the empty text stays empty, a number or a text that reads as one
 // is formatted, and a text that is no number is shown as it stands.
-std::string Formato00(const ValorLibre &valor);
+std::string Formato00(const ValorLibre& valor);
 
 // A figure as the user sees it, read back as a number: the value rounded by the format.
 double Redondeado00(double valor);

@@ -1,11 +1,10 @@
 #pragma once
 
 // An exact reference for the weights: the same definitions carried out in fractions, so that
-// the floating-point result of the code can be checked against the true value of each step.
+// each floating-point figure is checked against its true value.
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -17,71 +16,46 @@ struct Fraccion {
     Entero num = 0;
     Entero den = 1;
 
-    Fraccion(long long n = 0, long long d = 1) : num(n), den(d) { Reducir(); }
-    static Fraccion De(Entero n, Entero d) {
-        Fraccion f;
-        f.num = n;
-        f.den = d;
-        f.Reducir();
-        return f;
-    }
-    static Entero Mcd(Entero a, Entero b) {
-        a = a < 0 ? -a : a;
+    Fraccion(long long n = 0, long long d = 1) : Fraccion(Entero{n}, Entero{d}, true) {}
+    Fraccion(Entero n, Entero d, bool) : num(d < 0 ? -n : n), den(d < 0 ? -d : d) {
+        Entero a = num < 0 ? -num : num, b = den;
         while (b != 0) {
-            const Entero r = a % b;
-            a = b;
-            b = r < 0 ? -r : r;
+            a = a % b;
+            std::swap(a, b);
         }
-        return a;
+        num /= a;
+        den /= a;
     }
     static Entero Por(Entero a, Entero b) {
-        Entero r;
-        if (__builtin_mul_overflow(a, b, &r)) {
-            ADD_FAILURE() << "the exact reference overflowed";
-        }
+        Entero r = 0;
+        EXPECT_FALSE(__builtin_mul_overflow(a, b, &r)) << "the exact reference overflowed";
         return r;
     }
-    void Reducir() {
-        if (den < 0) {
-            num = -num;
-            den = -den;
-        }
-        const Entero g = Mcd(num, den);
-        if (g > 1) {
-            num /= g;
-            den /= g;
-        }
-    }
     friend Fraccion operator+(Fraccion a, Fraccion b) {
-        return De(Por(a.num, b.den) + Por(b.num, a.den), Por(a.den, b.den));
+        return {Por(a.num, b.den) + Por(b.num, a.den), Por(a.den, b.den), true};
     }
     friend Fraccion operator*(Fraccion a, Fraccion b) {
-        return De(Por(a.num, b.num), Por(a.den, b.den));
+        return {Por(a.num, b.num), Por(a.den, b.den), true};
     }
     friend Fraccion operator/(Fraccion a, Fraccion b) {
-        return De(Por(a.num, b.den), Por(a.den, b.num));
+        return {Por(a.num, b.den), Por(a.den, b.num), true};
     }
     double Doble() const {
         return static_cast<double>(static_cast<long double>(num) / static_cast<long double>(den));
     }
-    // The value times 100 rounded half away from zero, exactly; the tests keep away from ties.
-    Entero Centesimas() const {
-        const Entero magnitud = (num < 0 ? -num : num) * 100;
-        const Entero resto2 = 2 * (magnitud % den);
+    // The value times 100, rounded half away from zero; the tests keep away from ties.
+    long long Centesimas() const {
+        const Entero magnitud = (num < 0 ? -num : num) * 100, resto2 = 2 * (magnitud % den);
         EXPECT_NE(resto2, den) << "a tie at two decimals";
-        const Entero k = magnitud / den + (resto2 >= den ? 1 : 0);
+        const auto k = static_cast<long long>(magnitud / den + (resto2 >= den ? 1 : 0));
         return num < 0 ? -k : k;
     }
-    // The figure as shown with two decimals.
     std::string Texto00() const {
-        const Entero k = Centesimas();
-        const long long a = static_cast<long long>(k < 0 ? -k : k);
-        const std::string dos = std::to_string(100 + a % 100).substr(1);
-        return (k < 0 ? "-" : "") + std::to_string(a / 100) + "." + dos;
+        const long long k = Centesimas(), a = k < 0 ? -k : k;
+        return (k < 0 ? "-" : "") + std::to_string(a / 100) + "." +
+               std::to_string(100 + a % 100).substr(1);
     }
 };
-
-using FilasExactas = std::vector<std::vector<Fraccion>>;
 
 struct ReferenciaAhp {
     std::vector<Fraccion> pesos; // per cent
@@ -89,20 +63,19 @@ struct ReferenciaAhp {
 };
 
 // Weights by column normalisation and row averaging; lambda as the mean of (A w)_r / w_r.
-inline ReferenciaAhp CalcularReferencia(const FilasExactas& a) {
+inline ReferenciaAhp CalcularReferencia(const std::vector<std::vector<Fraccion>>& a) {
     const auto n = a.size();
     std::vector<Fraccion> suma(n), w(n);
-    for (std::size_t c = 0; c < n; ++c) {
-        for (std::size_t r = 0; r < n; ++r) {
-            suma[c] = suma[c] + a[r][c];
-        }
-    }
     ReferenciaAhp ref;
     for (std::size_t r = 0; r < n; ++r) {
         for (std::size_t c = 0; c < n; ++c) {
-            w[r] = w[r] + a[r][c] / suma[c];
+            suma[c] = suma[c] + a[r][c];
         }
-        w[r] = w[r] / Fraccion(static_cast<long long>(n));
+    }
+    for (std::size_t r = 0; r < n; ++r) {
+        for (std::size_t c = 0; c < n; ++c) {
+            w[r] = w[r] + a[r][c] / suma[c] / Fraccion(static_cast<long long>(n));
+        }
         ref.pesos.push_back(w[r] * Fraccion(100));
     }
     for (std::size_t r = 0; r < n; ++r) {
@@ -110,9 +83,8 @@ inline ReferenciaAhp CalcularReferencia(const FilasExactas& a) {
         for (std::size_t c = 0; c < n; ++c) {
             producto = producto + a[r][c] * w[c];
         }
-        ref.lambda = ref.lambda + producto / w[r];
+        ref.lambda = ref.lambda + producto / w[r] / Fraccion(static_cast<long long>(n));
     }
-    ref.lambda = ref.lambda / Fraccion(static_cast<long long>(n));
     return ref;
 }
 
