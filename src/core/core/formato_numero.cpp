@@ -1,6 +1,7 @@
 #include "core/core/formato_numero.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -18,9 +19,12 @@ struct Decimal {
 };
 
 Decimal DescomponerDecimal(double magnitud) {
+    // Independent of the locale, which the window layer sets from the user's environment.
     char texto[64];
-    std::snprintf(texto, sizeof texto, "%.*e", DigitosSignificativos - 1, magnitud);
-    const std::string escrito(texto);
+    const auto fin = std::to_chars(texto, texto + sizeof texto, magnitud, std::chars_format::scientific,
+                                   DigitosSignificativos - 1)
+                         .ptr;
+    const std::string escrito(texto, fin);
     const auto e = escrito.find('e');
     Decimal decimal;
     decimal.digitos = escrito.substr(0, 1) + escrito.substr(2, e - 2);

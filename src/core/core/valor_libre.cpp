@@ -3,6 +3,7 @@
 #include "core/core/error_ejecucion.h"
 
 #include <cctype>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -66,7 +67,10 @@ std::optional<double> LeerNumero(std::string_view texto) {
     }
     std::string limpio;
     if (i < texto.size() && (texto[i] == '+' || texto[i] == '-')) {
-        limpio += texto[i++];
+        if (texto[i] == '-') {
+            limpio += '-';
+        }
+        ++i;
     }
     std::size_t digitos = TomarDigitos(texto, i, limpio);
     if (i < texto.size() && (texto[i] == '.' || texto[i] == ',')) {
@@ -93,7 +97,18 @@ std::optional<double> LeerNumero(std::string_view texto) {
     if (i != texto.size()) {
         return std::nullopt;
     }
-    const double numero = std::strtod(limpio.c_str(), nullptr);
+    // from_chars ignores the locale, which the window layer sets from the user's environment.
+    double numero = 0;
+    const auto [fin, error] = std::from_chars(limpio.data(), limpio.data() + limpio.size(), numero);
+    if (error == std::errc::result_out_of_range) {
+        if (limpio.find("e-") != std::string::npos) {
+            return 0.0; // too small to hold: it reads as zero
+        }
+        throw ErrorEjecucion(ErrDesbordamiento);
+    }
+    if (error != std::errc() || fin != limpio.data() + limpio.size()) {
+        return std::nullopt;
+    }
     if (!std::isfinite(numero)) {
         throw ErrorEjecucion(ErrDesbordamiento);
     }
@@ -105,8 +120,15 @@ std::string TextoNumero(double numero) {
         return "0";
     }
     char buffer[40];
-    std::snprintf(buffer, sizeof buffer, "%.15G", numero);
-    return buffer;
+    const auto fin =
+        std::to_chars(buffer, buffer + sizeof buffer, numero, std::chars_format::general, 15).ptr;
+    std::string texto(buffer, fin);
+    for (char& c : texto) {
+        if (c == 'e') {
+            c = 'E';
+        }
+    }
+    return texto;
 }
 
 namespace {

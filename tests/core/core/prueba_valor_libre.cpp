@@ -88,3 +88,28 @@ TEST(Arreglo, AbsentUntilSizedAndIndexedFromOne) {
 
 } // namespace
 } // namespace vadro
+
+#include <clocale>
+
+namespace vadro {
+namespace {
+
+// The window layer sets the C locale from the user's environment; numbers in files and in
+// the core must not follow it.
+TEST(ValorLibre, NumbersIgnoreTheProcessLocale) {
+    const char* espanol = std::setlocale(LC_ALL, "es_ES.UTF-8");
+    if (espanol == nullptr) {
+        espanol = std::setlocale(LC_ALL, "de_DE.UTF-8");
+    }
+    EXPECT_EQ(TextoNumero(0.5), "0.5");
+    EXPECT_EQ(LeerNumero("1.5"), 1.5);
+    EXPECT_EQ(LeerNumero("+2"), 2.0);
+    EXPECT_EQ(LeerNumero("1e-400"), 0.0);
+    std::setlocale(LC_ALL, "C");
+    if (espanol == nullptr) {
+        GTEST_SKIP() << "no locale with a decimal comma on this machine";
+    }
+}
+
+} // namespace
+} // namespace vadro
