@@ -2,6 +2,7 @@
 
 #include "core/core/error_ejecucion.h"
 #include "core/core/mensajes.h"
+#include "core/files/componentes_etapas.h"
 #include "core/files/formato.h"
 
 namespace vadro {
@@ -62,6 +63,9 @@ void GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
                    const std::string& indice) {
     ArchivoSalida salida;
     EscribirCabecera(modelo, salida, indice);
+    // The components and stages writers have no trap: their failures go up to the caller.
+    GuardarComponentes(modelo, salida, indice);
+    GuardarEtapas(modelo, salida, indice);
     try {
         GuardarSeccion(ruta, salida, anadir);
     } catch (const ErrorEjecucion& error) {
@@ -79,6 +83,8 @@ void CargarModelo(Modelo& modelo, const std::string& ruta, const std::string& in
 
 void CargarModelo(Modelo& modelo, ArchivoEntrada& archivo, const std::string& indice) {
     LeerCabecera(modelo, archivo, indice);
+    CargarComponentes(modelo, archivo, indice);
+    CargarEtapas(modelo, archivo, indice);
 }
 
 } // namespace vadro
