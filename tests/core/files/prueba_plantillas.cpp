@@ -1,0 +1,95 @@
+#include "core/core/ini.h"
+#include "core/files/componentes_etapas.h"
+#include "core/files/plantillas.h"
+#include "soporte/guion_dialogos.h"
+#include "soporte/prueba_sesion.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace vadro {
+namespace {
+
+class Plantillas : public pruebas::PruebaSesion {
+protected:
+    Plantillas() {
+        std::filesystem::create_directories(otra);
+        Modelo& m = sesion().modelo;
+        m.NumEtapas = 1;
+        m.Etapas.Redimensionar(1);
+        m.Etapas(1) = "Explotación";
+        m.NumComponentes = 1;
+        m.Componentes.Redimensionar(1);
+        m.Componentes(1).Nombre = "Depósito";
+    }
+    std::string Directorio(const std::string& clave) {
+        return LeerIni("DIRECTORIOS", clave, Ruta("Config.ini")).Texto();
+    }
+    std::string otra = Ruta("plantillas");
+    pruebas::GuionDialogos dialogos;
+};
+
+TEST_F(Plantillas, ACancelledDialogChangesNothingAndSaysNothing) {
+    dialogos.Cancelar("Importar etapas");
+    const Modelo antes = sesion().modelo;
+    EXPECT_FALSE(ImportarEtapas(sesion().modelo));
+    EXPECT_EQ(sesion().modelo, antes);
+    EXPECT_EQ(Contenido(Ruta("Config.ini")), "");
+}
+
+TEST_F(Plantillas, TheFirstDialogOpensOnTheDefaultFolderAndTheChosenFolderIsRemembered) {
+    const std::string ruta = otra + "/etapas.tpa";
+    dialogos.Elegir("Exportar etapas", ruta);
+    ASSERT_TRUE(ExportarEtapas(sesion().modelo));
+    const PeticionDialogo& p = dialogos.Peticiones().at(0);
+    EXPECT_EQ(p.tipo, TipoDialogo::Guardar);
+    EXPECT_EQ(p.directorioInicial, Ruta("Archivos de modelo"));
+    EXPECT_TRUE(std::filesystem::is_directory(p.directorioInicial));
+    EXPECT_EQ(p.filtro, "Plantillas de etapa (*.tpa)|*.tpa");
+    EXPECT_EQ(p.nombreArchivo, "");
+    EXPECT_EQ(sesion().configuracion.DirEtapas, otra);
+    EXPECT_EQ(Directorio("ETAPAS"), otra);
+
+    dialogos.Elegir("Importar etapas", ruta);
+    sesion().modelo.Etapas(1) = "otra";
+    ASSERT_TRUE(ImportarEtapas(sesion().modelo));
+    EXPECT_EQ(dialogos.Peticiones().at(1).directorioInicial, otra);
+    EXPECT_EQ(sesion().modelo.Etapas(1), "Explotación");
+}
+
+TEST_F(Plantillas, ImportReplacesOneSectionAndLeavesTheOthers) {
+    Modelo plantilla;
+    plantilla.NumComponentes = 2;
+    plantilla.Componentes.Redimensionar(2);
+    plantilla.Componentes(2).Nombre = "Válvula";
+    plantilla.Componentes(1).Nombre = "Bomba";
+    GuardarComponentes(plantilla, otra + "/c.cmp", false);
+    dialogos.Elegir("Importar componentes", otra + "/c.cmp");
+    ASSERT_TRUE(ImportarComponentes(sesion().modelo));
+    EXPECT_EQ(sesion().modelo.NumComponentes, ValorLibre(2.0));
+    EXPECT_EQ(sesion().modelo.Componentes(2).Nombre, "Válvula");
+    EXPECT_EQ(sesion().modelo.Etapas(1), "Explotación");
+    EXPECT_EQ(Directorio("COMPONENTES"), otra);
+}
+
+TEST_F(Plantillas, StagesReadFromAnotherKindOfTemplateAreTheSingleEmptyEntry) {
+    Escribir(otra + "/r.req", "*****REQUERIMIENTOS*****\r\nREQ_NUMR = 0\r\n");
+    dialogos.Elegir("Importar etapas", otra + "/r.req");
+    ASSERT_TRUE(ImportarEtapas(sesion().modelo));
+    EXPECT_EQ(sesion().modelo.NumEtapas, ValorLibre(0.0));
+    EXPECT_EQ(sesion().modelo.Etapas.Cota(), 1);
+    EXPECT_EQ(sesion().modelo.Etapas(1), "");
+}
+
+TEST_F(Plantillas, TheFolderIsRememberedEvenWhenTheReadFails) {
+    dialogos.Elegir("Importar componentes", otra + "/no-esta.cmp");
+    mensajes.Esperar("VADRO: Error.", "Fichero no válido o formato de datos incorrecto.\r\n"
+                                      "No se ha podido cargar el árbol de componentes.");
+    EXPECT_TRUE(ImportarComponentes(sesion().modelo));
+    EXPECT_EQ(Directorio("COMPONENTES"), otra);
+    EXPECT_EQ(sesion().modelo.Componentes.Cota(), 1);
+}
+
+} // namespace
+} // namespace vadro
