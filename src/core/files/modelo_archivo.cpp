@@ -59,7 +59,7 @@ void LeerCabecera(Modelo& modelo, ArchivoEntrada& archivo, const std::string& in
         LeerBooleanoArchivo(BuscarValor(archivo, ClaveCabecera(modelo, indice, "_PERM_USU_VER")));
 }
 
-void GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
+bool GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
                    const std::string& indice) {
     ArchivoSalida salida;
     EscribirCabecera(modelo, salida, indice);
@@ -70,9 +70,10 @@ void GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
         GuardarSeccion(ruta, salida, anadir);
     } catch (const ErrorEjecucion& error) {
         MostrarFalloGuardado(error);
-        return;
+        return false;
     }
     modelo.Modificado = false;
+    return true;
 }
 
 void CargarModelo(Modelo& modelo, const std::string& ruta, const std::string& indice) {

@@ -13,9 +13,10 @@ void EscribirCabecera(const Modelo& modelo, ArchivoSalida& salida, const std::st
 void LeerCabecera(Modelo& modelo, ArchivoEntrada& archivo, const std::string& indice);
 
 // Writes the complete model: the header, then the sections. With `anadir` the text is
-// appended as plain text; otherwise it replaces the file, scrambled. A failure is shown to the
-// user; the model then keeps its `Modificado`.
-void GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
+// appended as plain text; otherwise it replaces the file, scrambled. A failure to write the file
+// is shown to the user and the model keeps its `Modificado`: the result says whether the file
+// was written.
+bool GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
                    const std::string& indice = {});
 
 // Reads a complete file on its own. A failure the section readers do not catch goes up to
