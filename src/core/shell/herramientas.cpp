@@ -1,0 +1,199 @@
+#include "core/shell/herramientas.h"
+
+#include "core/core/archivos.h"
+#include "core/core/codigo_pagina.h"
+#include "core/core/error_ejecucion.h"
+#include "core/core/formato_numero.h"
+#include "core/files/proteccion.h"
+#include "core/weighting/calculo_pesos.h"
+
+#include <charconv>
+#include <istream>
+#include <ostream>
+#include <sstream>
+
+namespace vadro {
+
+namespace {
+
+constexpr int kCorrecto = 0;
+constexpr int kFallo = 2;
+
+const char* const kAyuda =
+    "Uso: vadro-herramientas ORDEN [ARGUMENTOS]\n"
+    "\n"
+    "Herramientas de línea de órdenes de VADRO Programador.\n"
+    "\n"
+    "Órdenes:\n"
+    "  texto ARCHIVO            Muestra el texto plano (UTF-8) de un modelo, plantilla o\n"
+    "                           modelo compilado, esté codificado o no.\n"
+    "  proteger PLANO DESTINO   Escribe en DESTINO la forma codificada de un texto plano.\n"
+    "  pesos                    Lee de la entrada estándar una matriz de comparación por\n"
+    "                           pares, una fila por línea, celdas separadas por blancos y\n"
+    "                           \"-\" para una celda vacía (se admiten fracciones como 1/3);\n"
+    "                           muestra el peso de cada fila y la razón de consistencia.\n"
+    "  --help                   Muestra esta ayuda.\n"
+    "\n"
+    "Estado de salida: 0 correcto, 1 modelo con errores, 2 fallo.\n";
+
+struct ErrorUso {
+    std::string mensaje;
+};
+
+bool EsUtf8ConAcentos(const std::string& bytes) {
+    bool conAcentos = false;
+    std::size_t i = 0;
+    while (i < bytes.size()) {
+        const auto c = static_cast<unsigned char>(bytes[i]);
+        int siguen = 0;
+        if (c < 0x80) {
+            ++i;
+            continue;
+        }
+        if ((c & 0xE0) == 0xC0 && c >= 0xC2) {
+            siguen = 1;
+        } else if ((c & 0xF0) == 0xE0) {
+            siguen = 2;
+        } else if ((c & 0xF8) == 0xF0 && c <= 0xF4) {
+            siguen = 3;
+        } else {
+            return false;
+        }
+        for (int k = 1; k <= siguen; ++k) {
+            if (i + static_cast<std::size_t>(k) >= bytes.size() ||
+                (static_cast<unsigned char>(bytes[i + static_cast<std::size_t>(k)]) & 0xC0) !=
+                    0x80) {
+                return false;
+            }
+        }
+        conAcentos = true;
+        i += static_cast<std::size_t>(siguen) + 1;
+    }
+    return conAcentos;
+}
+
+std::string LeerOFallar(const std::string& ruta) {
+    try {
+        return LeerArchivo(ruta);
+    } catch (const ErrorEjecucion& e) {
+        throw ErrorUso{"No se puede leer " + ruta + ": " + e.Descripcion()};
+    }
+}
+
+int Texto(const std::vector<std::string>& args, std::ostream& salida) {
+    if (args.size() != 2) {
+        throw ErrorUso{"La orden texto necesita un ARCHIVO."};
+    }
+    for (const auto& linea : LineasPlanas(LeerOFallar(args[1]))) {
+        salida << DesdeOchoBits(linea) << '\n';
+    }
+    return kCorrecto;
+}
+
+int Proteger(const std::vector<std::string>& args) {
+    if (args.size() != 3) {
+        throw ErrorUso{"La orden proteger necesita un archivo PLANO y un DESTINO."};
+    }
+    const std::vector<std::string> lineas = DividirLineas(ComoOchoBits(LeerOFallar(args[1])));
+    try {
+        EscribirArchivo(args[2], TextoProtegido(lineas));
+    } catch (const ErrorEjecucion& e) {
+        throw ErrorUso{"No se puede escribir " + args[2] + ": " + e.Descripcion()};
+    }
+    return kCorrecto;
+}
+
+// A cell of a typed matrix: "-" is empty, "a/b" a fraction, anything else a number.
+ValorLibre LeerCelda(const std::string& celda, int fila) {
+    if (celda == "-") {
+        return ValorLibre();
+    }
+    const auto barra = celda.find('/');
+    const auto numerador = LeerNumero(celda.substr(0, barra));
+    const auto denominador = barra == std::string::npos ? std::optional<double>(1.0)
+                                                        : LeerNumero(celda.substr(barra + 1));
+    if (!numerador || !denominador || *denominador == 0) {
+        throw ErrorUso{"La celda \"" + celda + "\" de la fila " + std::to_string(fila) +
+                       " no es un número."};
+    }
+    return ValorLibre(*numerador / *denominador);
+}
+
+std::string DiecisieteCifras(double numero) {
+    char texto[40];
+    const auto fin =
+        std::to_chars(texto, texto + sizeof texto, numero, std::chars_format::general, 17).ptr;
+    return std::string(texto, fin);
+}
+
+int Pesos(const std::vector<std::string>& args, std::istream& entrada, std::ostream& salida) {
+    if (args.size() != 1) {
+        throw ErrorUso{
+            "La orden pesos lee la matriz de la entrada estándar y no lleva argumentos."};
+    }
+    std::vector<std::vector<ValorLibre>> filas;
+    std::string linea;
+    while (std::getline(entrada, linea)) {
+        std::istringstream celdas(linea);
+        std::vector<ValorLibre> fila;
+        std::string celda;
+        while (celdas >> celda) {
+            fila.push_back(LeerCelda(celda, static_cast<int>(filas.size()) + 1));
+        }
+        if (!fila.empty()) {
+            filas.push_back(std::move(fila));
+        }
+    }
+    if (filas.empty()) {
+        throw ErrorUso{"La matriz está vacía."};
+    }
+    const PesosMatriz resultado = PesosDeFilas(filas);
+    for (int i = 1; i <= static_cast<int>(filas.size()); ++i) {
+        const bool hayPeso =
+            resultado.Calculado && i <= resultado.Pesos.Tamano() && !resultado.Pesos(i).EsVacio();
+        salida << "Peso " << i << " = " << (hayPeso ? Formato00(resultado.Pesos(i)) : "") << '\n';
+    }
+    salida << "Consistencia = "
+           << (resultado.Consistencia.EsVacio() ? ""
+                                                : DiecisieteCifras(resultado.Consistencia.Numero()))
+           << '\n';
+    return kCorrecto;
+}
+
+} // namespace
+
+std::string ComoOchoBits(const std::string& bytes) {
+    return EsUtf8ConAcentos(bytes) ? AOchoBits(bytes) : bytes;
+}
+
+int EjecutarHerramientas(const std::vector<std::string>& argumentos, std::istream& entrada,
+                         std::ostream& salida, std::ostream& error) {
+    try {
+        if (argumentos.empty()) {
+            throw ErrorUso{"Falta la orden."};
+        }
+        const std::string& orden = argumentos.front();
+        if (orden == "--help" || orden == "-h" || orden == "ayuda") {
+            salida << kAyuda;
+            return kCorrecto;
+        }
+        if (orden == "texto") {
+            return Texto(argumentos, salida);
+        }
+        if (orden == "proteger") {
+            return Proteger(argumentos);
+        }
+        if (orden == "pesos") {
+            return Pesos(argumentos, entrada, salida);
+        }
+        throw ErrorUso{"Orden desconocida: " + orden + "."};
+    } catch (const ErrorUso& e) {
+        error << "vadro-herramientas: " << e.mensaje << "\nPruebe «vadro-herramientas --help».\n";
+        return kFallo;
+    } catch (const ErrorEjecucion& e) {
+        error << "vadro-herramientas: error " << e.Numero() << ": " << e.Descripcion() << '\n';
+        return kFallo;
+    }
+}
+
+} // namespace vadro
