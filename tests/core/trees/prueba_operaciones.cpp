@@ -66,7 +66,6 @@ TEST_F(Operaciones, ACriterionGoesByTheLevelOfTheSelection) {
 }
 
 TEST_F(Operaciones, TheFirstSubcriterionTakesTheIndicatorsAndACriterionFromThemLandsTooDeep) {
-    sesion().modelo.ConSubcriterios = true;
     Abrir(Base());
     Sel("C1R1");
     ed.AñadirSubcriterio("Subcriterio");
