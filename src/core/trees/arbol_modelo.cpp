@@ -53,7 +53,9 @@ private:
 };
 
 std::string Numerada(const std::string& letra, int numero) {
-    return letra + std::to_string(numero);
+    std::string texto = letra;
+    texto += std::to_string(numero);
+    return texto;
 }
 
 // Adds one to a string of decimal digits.
@@ -175,7 +177,7 @@ void EliminarSubcriterios(Modelo& modelo) {
                     criterio.Indicadores.RedimensionarConservando(n);
                     criterio.Indicadores(n) = std::move(subcriterio.Indicadores(i));
                     criterio.Indicadores(n).Clave =
-                        "I" + std::to_string(n) + "C" + std::to_string(c) + "R" + std::to_string(r);
+                        Numerada("I", n) + Numerada("C", c) + Numerada("R", r);
                 }
                 subcriterio.NumIndicadores = 0;
                 subcriterio.Indicadores.Borrar();
