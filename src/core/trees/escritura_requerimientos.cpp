@@ -33,6 +33,7 @@ void EdicionRequerimientos::Abrir() {
     Arrastrando = false;
     PegarHabilitado = false;
     UltimasPosiciones = {};
+    Selectores = {}; // the controls come fresh with the window
     tvwCopia.Vaciar();
     Modelo& modelo = sesion_.modelo;
     LlenarArbol(tvwArbol, modelo, false, false, false);
