@@ -1,0 +1,110 @@
+#include "modelo_prueba.h"
+#include "volcado.h"
+
+#include "core/trees/arbol_modelo.h"
+#include "core/trees/niveles.h"
+
+#include <gtest/gtest.h>
+
+namespace vadro {
+namespace {
+
+using namespace pruebas;
+
+std::string TextoDe(const NodoArbol& n) {
+    return n.Text();
+}
+
+// C1 holds subcriteria and a direct indicator at once; C2 and R2 are bare.
+Modelo ModeloMixto() {
+    return ModeloCon(
+        {Requerimiento("A", {Criterio("C1", {Indicador("d")},
+                                      {Subcriterio("S1", {Indicador("x"), Indicador("y")}),
+                                       Subcriterio("S2", {Indicador("z")})}),
+                             Criterio("C2", {})}),
+         Requerimiento("B", {})},
+        "Mi MODELO ÑANDÚ × Œ");
+}
+
+TEST(Niveles, PasteAndDropTargetsFollowTheLevelTable) {
+    Arbol a;
+    Construir(a, "M[R[C1[I1],C2[S[I2]],C3]]");
+    const struct {
+        int nivel;
+        const char* destino;
+        bool permitido;
+    } casos[] = {{1, "M", true},   {1, "R", false}, {2, "R", true},   {2, "C3", false},
+                 {3, "C2", true},  {3, "C3", true}, {3, "C1", false}, {3, "S", false},
+                 {4, "S", true},   {4, "C1", true}, {4, "C3", true},  {4, "C2", false},
+                 {4, "I1", false}, {5, "I1", true}, {6, "M", true},   {0, "M", false}};
+    for (const auto& caso : casos) {
+        EXPECT_EQ(DestinoPermitido(caso.nivel, a.NodoPorClave(caso.destino)), caso.permitido)
+            << caso.nivel << " on " << caso.destino;
+    }
+    EXPECT_TRUE(DestinoPermitido(1, nullptr));
+    EXPECT_FALSE(DestinoPermitido(2, nullptr));
+}
+
+TEST(LlenarArbol, WalksDepthFirstWithSubcriteriaBeforeDirectIndicators) {
+    Arbol a;
+    LlenarArbol(a, ModeloMixto(), false, false, false);
+    EXPECT_EQ(Forma(a, TextoDe), "Modelo mi modelo ñandú × œ[A[C1[S1[x,y],S2[z],d],C2],B]");
+    EXPECT_EQ(ClavesPorIndice(a),
+              "M|R1|C1R1|S1C1R1|I1S1C1R1|I2S1C1R1|S2C1R1|I1S2C1R1|I1C1R1|C2R1|R2");
+    EXPECT_EQ(Forma(a, [](const NodoArbol& n) { return std::to_string(n.Image()); }),
+              "5[1[2[3[4,4],3[4],4],2],1]");
+    EXPECT_TRUE(a.Nodo(9)->Expandido());
+}
+
+TEST(LlenarArbol, KeysWeightsAndFunctionLinesOnRequest) {
+    Modelo m = ModeloCon({Requerimiento("A", {Criterio("C", {Indicador("i")})})});
+    m.Requerimientos(1).Peso = 0;
+    m.Requerimientos(1).Criterios(1).Peso = ValorLibre();
+    m.Requerimientos(1).Criterios(1).Indicadores(1).Peso = 2.675;
+    m.Requerimientos(1).Criterios(1).Indicadores(1).Funcion.C = 2.675;
+    Arbol a;
+    LlenarArbol(a, m, true, true, true);
+    EXPECT_EQ(Forma(a, TextoDe),
+              "Modelo [(R1) A (0.00 %)[(C1R1) C[(I1C1R1) i (2.68 %)[C = 2.675; K = ; P = ]]]]");
+    EXPECT_EQ(a.Nodo(5)->Key(), "valI1C1R1");
+    EXPECT_EQ(FormatoPeso(99.999), "100.00");
+    EXPECT_EQ(FormatoPeso(ValorLibre("3,5")), "3.50");
+    EXPECT_EQ(FormatoPeso(ValorLibre("n/d")), "n/d");
+}
+
+TEST(EliminarSubcriteriosDelNodo, IndicatorsComeUpLastFirstKeepingTheirKeys) {
+    Arbol a;
+    Construir(a, "M[R1[C1[S1[I1,I2],S2[I3]],C2[I4]]]");
+    EliminarSubcriteriosDelNodo(a, a.Nodo(1));
+    EXPECT_EQ(Forma(a), "M[R1[C1[I2,I1,I3],C2[I4]]]");
+}
+
+TEST(EliminarSubcriteriosDelNodo, AnIndicatorEndsTheScanAndAnEmptiedNodeLetsItRunOn) {
+    Arbol a;
+    Construir(a, "C0[I1,S1[I2]]");
+    EliminarSubcriteriosDelNodo(a, a.Nodo(1));
+    EXPECT_EQ(Forma(a), "C0[I1,S1[I2]]");
+    Arbol b;
+    Construir(b, "R1[C1[S1],C2[S2[I1]]]");
+    EliminarSubcriteriosDelNodo(b, b.NodoPorClave("C1"));
+    EXPECT_EQ(Forma(b), "R1[C1,C2[I1]]") << "the scan ran on into C1's siblings";
+}
+
+TEST(EliminarSubcriterios, IndicatorsJoinTheirCriterionRenumberedWithWeightsKept) {
+    Modelo m = ModeloMixto();
+    EliminarSubcriterios(m);
+    const NodoCriterio& c1 = m.Requerimientos(1).Criterios(1);
+    EXPECT_EQ(c1.NumIndicadores, ValorLibre(3));
+    EXPECT_EQ(c1.NumSubcriterios, ValorLibre(0));
+    EXPECT_FALSE(c1.Subcriterios.Presente());
+    ASSERT_EQ(c1.Indicadores.Tamano(), 3) << "the direct indicator gives way";
+    EXPECT_EQ(c1.Indicadores(1).Nombre + c1.Indicadores(2).Nombre + c1.Indicadores(3).Nombre,
+              "xyz");
+    EXPECT_EQ(c1.Indicadores(3).Clave, "I3C1R1");
+    EXPECT_EQ(c1.Indicadores(3).Peso, ValorLibre(10));
+    EXPECT_FALSE(HaySubcriterios(m));
+    EXPECT_EQ(m.Requerimientos(1).Criterios(2).NumIndicadores, ValorLibre(0));
+}
+
+} // namespace
+} // namespace vadro
