@@ -1,5 +1,7 @@
 #include "core/trees/arbol_modelo.h"
 
+#include "core/core/formato_numero.h"
+
 #include "core/trees/niveles.h"
 
 #include <cmath>
@@ -41,7 +43,7 @@ private:
         std::string texto = conClave_ ? "(" + clave + ") " : "";
         texto += registro.Nombre;
         if (conPeso_ && !registro.Peso.EsVacio()) {
-            texto += " (" + FormatoPeso(registro.Peso) + " %)";
+            texto += " (" + Formato00(registro.Peso) + " %)";
         }
         return texto;
     }
@@ -56,18 +58,6 @@ std::string Numerada(const std::string& letra, int numero) {
     std::string texto = letra;
     texto += std::to_string(numero);
     return texto;
-}
-
-// Adds one to a string of decimal digits.
-void SumarUno(std::string& cifras) {
-    for (auto i = cifras.size(); i-- > 0;) {
-        if (cifras[i] != '9') {
-            ++cifras[i];
-            return;
-        }
-        cifras[i] = '0';
-    }
-    cifras.insert(cifras.begin(), '1');
 }
 
 } // namespace
@@ -103,32 +93,6 @@ void LlenarArbol(Arbol& arbol, const Modelo& modelo, bool conClave, bool conPeso
             }
         }
     }
-}
-
-std::string FormatoPeso(const ValorLibre& peso) {
-    if (peso.EsVacio()) {
-        return "";
-    }
-    const std::optional<double> numero =
-        peso.EsNumero() ? std::optional<double>(peso.Numero()) : LeerNumero(peso.Texto());
-    if (!numero) {
-        return peso.Texto();
-    }
-    // Twelve decimals first, so that the rounding works on the decimal digits a user reads and
-    // 2.675 gives 2.68, not the 2.67 of its binary neighbour.
-    char buffer[400];
-    std::snprintf(buffer, sizeof buffer, "%.12f", std::fabs(*numero));
-    const std::string largo = buffer;
-    const auto separador = largo.find_first_not_of("0123456789");
-    const auto decimales = largo.find_first_of("0123456789", separador);
-    std::string cifras = largo.substr(0, separador) + largo.substr(decimales, 2);
-    if (largo[decimales + 2] >= '5') {
-        SumarUno(cifras);
-    }
-    const auto entero = cifras.size() - 2;
-    const std::string signo = *numero < 0 ? "-" : "";
-    return signo + cifras.substr(0, entero) + largo.substr(separador, decimales - separador) +
-           cifras.substr(entero);
 }
 
 void EliminarSubcriteriosDelNodo(Arbol& arbol, NodoArbol* nodo) {

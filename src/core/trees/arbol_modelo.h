@@ -14,9 +14,6 @@ namespace vadro {
 // after it, `conFuncion` hangs under each indicator a line with its C, K and P.
 void LlenarArbol(Arbol& arbol, const Modelo& modelo, bool conClave, bool conPeso, bool conFuncion);
 
-// A weight in the form "0.00": two decimals, halves away from zero, the decimal separator of
-// the C library's locale. A text that is no number stays as it is.
-std::string FormatoPeso(const ValorLibre& peso);
 
 // Removes every subcriterion below `nodo` in a working tree, its indicators going to the end of
 // the subcriterion's parent, last first. No weight is touched.
