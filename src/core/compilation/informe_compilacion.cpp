@@ -55,20 +55,15 @@ PeticionDialogo DialogoInforme(const Sesion& sesion) {
 } // namespace
 
 bool GuardarInformeCompilacion(const Sesion& sesion, const std::vector<std::string>& informe) {
-    std::string ruta;
-    try {
-        ruta = MostrarDialogoArchivo(DialogoInforme(sesion));
-    } catch (const ErrorEjecucion& error) {
-        if (error.Numero() == ErrCancelar) {
-            return false;
-        }
-        throw;
+    const auto ruta = ElegirArchivo(DialogoInforme(sesion));
+    if (!ruta) {
+        return false;
     }
     std::vector<std::string> lineas;
     for (const auto& linea : LineasInformeCompilacion(sesion.modelo, informe, FechaHoraCorta())) {
         lineas.push_back(AOchoBits(linea));
     }
-    EscribirArchivo(ruta, UnirLineas(lineas));
+    EscribirArchivo(*ruta, UnirLineas(lineas));
     return true;
 }
 

@@ -17,6 +17,17 @@ std::string MostrarDialogoArchivo(const PeticionDialogo& peticion) {
     return *ruta;
 }
 
+std::optional<std::string> ElegirArchivo(const PeticionDialogo& peticion) {
+    try {
+        return MostrarDialogoArchivo(peticion);
+    } catch (const ErrorEjecucion& error) {
+        if (error.Numero() == ErrCancelar) {
+            return std::nullopt;
+        }
+        throw;
+    }
+}
+
 FuncionDialogos InstalarDialogos(FuncionDialogos funcion) {
     return std::exchange(SesionActual().servicios.dialogos, std::move(funcion));
 }

@@ -34,6 +34,9 @@ using FuncionDialogos = std::function<std::optional<std::string>(const PeticionD
 // to the command as the cancel error 32755.
 std::string MostrarDialogoArchivo(const PeticionDialogo& peticion);
 
+// The same for a command that ends quietly on a cancel: nothing when the user cancels.
+std::optional<std::string> ElegirArchivo(const PeticionDialogo& peticion);
+
 FuncionDialogos InstalarDialogos(FuncionDialogos funcion);
 
 } // namespace vadro

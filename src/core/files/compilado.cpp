@@ -37,15 +37,11 @@ bool EscribirCompilado(Sesion& sesion) {
     if (modelo.ArchivoCompilado.empty() || !ExisteArchivo(modelo.ArchivoCompilado)) {
         modelo.ArchivoCompilado = modelo.Archivo;
     }
-    std::string ruta;
-    try {
-        ruta = MostrarDialogoArchivo(DialogoCompilado(sesion));
-    } catch (const ErrorEjecucion& error) {
-        if (error.Numero() == ErrCancelar) {
-            return false;
-        }
-        throw;
+    const auto elegida = ElegirArchivo(DialogoCompilado(sesion));
+    if (!elegida) {
+        return false;
     }
+    const std::string& ruta = *elegida;
     modelo.ArchivoCompilado = ruta;
     modelo.Aplicacion = VersionPrograma();
     if (!GuardarModelo(modelo, ruta, false)) {

@@ -48,16 +48,11 @@ std::optional<std::string> ElegirPlantilla(Sesion& sesion, const TipoPlantilla& 
     peticion.filtro = tipo.filtro;
     peticion.indiceFiltro = 0;
     peticion.flags = modo == TipoDialogo::Abrir ? DlgArchivoDebeExistir : DlgPreguntarSobrescribir;
-    std::string ruta;
-    try {
-        ruta = MostrarDialogoArchivo(peticion);
-    } catch (const ErrorEjecucion& error) {
-        if (error.Numero() == ErrCancelar) {
-            return std::nullopt;
-        }
-        throw;
+    auto ruta = ElegirArchivo(peticion);
+    if (!ruta) {
+        return std::nullopt;
     }
-    directorio = DirectorioDe(ruta);
+    directorio = DirectorioDe(*ruta);
     EscribirConfiguracion(sesion, kSeccionDirectorios, tipo.claveDirectorio, directorio);
     return ruta;
 }

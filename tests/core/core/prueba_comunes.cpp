@@ -1,6 +1,8 @@
 #include "core/core/comunes.h"
 #include "core/core/error_ejecucion.h"
 
+#include "soporte/errores.h"
+
 #include <gtest/gtest.h>
 
 #include <clocale>
@@ -8,14 +10,7 @@
 namespace vadro {
 namespace {
 
-int Fallo(const std::function<void()>& accion) {
-    try {
-        accion();
-    } catch (const ErrorEjecucion& e) {
-        return e.Numero();
-    }
-    return 0;
-}
+using pruebas::NumeroDeError;
 
 TEST(Comunes, FileNamesSplitByTheLastSeparator) {
     EXPECT_EQ(DirectorioDe("C:\\modelos\\a.b.req"), "C:\\modelos");
@@ -27,8 +22,8 @@ TEST(Comunes, FileNamesSplitByTheLastSeparator) {
     EXPECT_EQ(DirectorioDe(""), "");
     EXPECT_EQ(NombreSinExtension(""), "");
     EXPECT_EQ(ExtensionDe(""), "");
-    EXPECT_EQ(Fallo([] { (void)DirectorioDe("modelo.vdm"); }), ErrLlamadaNoValida);
-    EXPECT_EQ(Fallo([] { (void)ExtensionDe("C:\\modelos\\x"); }), ErrLlamadaNoValida);
+    EXPECT_EQ(NumeroDeError([] { (void)DirectorioDe("modelo.vdm"); }), ErrLlamadaNoValida);
+    EXPECT_EQ(NumeroDeError([] { (void)ExtensionDe("C:\\modelos\\x"); }), ErrLlamadaNoValida);
 }
 
 TEST(Comunes, TheDecimalSeparatorFollowsTheLocaleAtTheMomentOfTheCall) {

@@ -2,19 +2,14 @@
 #include "core/core/error_ejecucion.h"
 #include "core/core/valor_libre.h"
 
+#include "soporte/errores.h"
+
 #include <gtest/gtest.h>
 
 namespace vadro {
 namespace {
 
-int NumeroDeError(const std::function<void()>& accion) {
-    try {
-        accion();
-    } catch (const ErrorEjecucion& e) {
-        return e.Numero();
-    }
-    return 0;
-}
+using pruebas::NumeroDeError;
 
 TEST(ValorLibre, KeepsEmptyTextZeroAndTextApart) {
     const ValorLibre vacio;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "soporte/errores.h"
+
 #include "core/core/error_ejecucion.h"
 #include "core/trees/arbol.h"
 
@@ -17,15 +19,5 @@ std::string Forma(
 void Construir(Arbol& arbol, const std::string& forma);
 // The keys in the order of the collection, apart by "|".
 std::string ClavesPorIndice(const Arbol& arbol);
-
-// The number of the runtime error the action raises; 0 when it raises none.
-template <typename Accion> int NumeroDeError(Accion&& accion) {
-    try {
-        accion();
-    } catch (const ErrorEjecucion& error) {
-        return error.Numero();
-    }
-    return 0;
-}
 
 } // namespace vadro::pruebas
