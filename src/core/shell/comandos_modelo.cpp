@@ -100,15 +100,23 @@ bool NecesitaNombre(const std::string& archivo) {
     return archivo.empty() || Minusculas(ExtensionDe(archivo)) == "vdc";
 }
 
-bool GuardarComo(Modelo& modelo, const std::string& directorioPrograma) {
+bool ElegirArchivoModelo(Modelo& modelo, const std::string& directorioPrograma,
+                         bool nombreCompleto) {
     try {
-        modelo.Archivo =
-            MostrarDialogoArchivo(PeticionGuardarModelo(modelo.Archivo, directorioPrograma, true));
+        modelo.Archivo = MostrarDialogoArchivo(
+            PeticionGuardarModelo(modelo.Archivo, directorioPrograma, nombreCompleto));
     } catch (const ErrorEjecucion& error) {
         if (error.Numero() == ErrCancelar) {
             return false;
         }
         throw;
+    }
+    return true;
+}
+
+bool GuardarComo(Modelo& modelo, const std::string& directorioPrograma) {
+    if (!ElegirArchivoModelo(modelo, directorioPrograma, true)) {
+        return false;
     }
     GuardarModelo(modelo, modelo.Archivo, false);
     return true;

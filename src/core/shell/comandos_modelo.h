@@ -26,6 +26,11 @@ PeticionDialogo PeticionGuardarModelo(const std::string& archivo,
 // a compiled file is never saved over as a model.
 bool NecesitaNombre(const std::string& archivo);
 
+// Asks for the name the model is saved under and takes it into `Archivo`. False, with
+// `Archivo` as it was, when the user cancels.
+bool ElegirArchivoModelo(Modelo& modelo, const std::string& directorioPrograma,
+                         bool nombreCompleto);
+
 // The save-as command: asks for a name whatever `Archivo` holds, takes it and writes the model
 // there. False, with `Archivo` as it was, when the user cancels.
 bool GuardarComo(Modelo& modelo, const std::string& directorioPrograma);
