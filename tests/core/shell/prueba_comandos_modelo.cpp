@@ -98,27 +98,6 @@ TEST_F(ComandosModelo, NuevoAsksOnlyAboutAModifiedModel) {
     EXPECT_TRUE(mensajes.Vistos().empty());
 }
 
-TEST_F(ComandosModelo, CancelAtTheQuestionOfNuevoEndsTheCommand) {
-    const std::string ruta = Ruta("m.vdm");
-    ModeloModificado(ruta);
-    mensajes.Esperar("VADRO PROGRAMADOR: Nuevo modelo", "Desea guardar el modelo activo?",
-                     Respuesta::Cancelar);
-    EXPECT_FALSE(GuardarAntesDeNuevo(modelo()));
-    EXPECT_EQ(mensajes.Vistos().back().botones, Botones::SiNoCancelar);
-    EXPECT_FALSE(ExisteArchivo(ruta));
-    EXPECT_TRUE(modelo().Modificado);
-}
-
-TEST_F(ComandosModelo, YesAtTheQuestionOfNuevoSavesToTheModelFile) {
-    const std::string ruta = Ruta("m.vdm");
-    ModeloModificado(ruta);
-    mensajes.Esperar("VADRO PROGRAMADOR: Nuevo modelo", "Desea guardar el modelo activo?",
-                     Respuesta::Si);
-    EXPECT_TRUE(GuardarAntesDeNuevo(modelo()));
-    EXPECT_EQ(NombreGuardadoEn(ruta), "Depuradora");
-    EXPECT_FALSE(modelo().Modificado);
-}
-
 TEST_F(ComandosModelo, NoAtTheQuestionOfNuevoGoesOnWithoutSaving) {
     const std::string ruta = Ruta("m.vdm");
     ModeloModificado(ruta);
@@ -170,71 +149,11 @@ TEST_F(ComandosModelo, OnlyANewOrACompiledFileNeedsAName) {
     EXPECT_FALSE(NecesitaNombre("/m/planta.vdc.vdm"));
 }
 
-TEST_F(ComandosModelo, SaveAsTakesTheChosenNameAndWritesThere) {
-    ModeloModificado(Ruta("viejo.vdm"));
-    const std::string nueva = Ruta("nuevo.vdm");
-    pruebas::GuionDialogos dialogos;
-    dialogos.Elegir(tituloGuardar, nueva);
-    EXPECT_TRUE(GuardarComo(modelo(), Directorio()));
-    EXPECT_EQ(modelo().Archivo, nueva);
-    EXPECT_EQ(NombreGuardadoEn(nueva), "Depuradora");
-    EXPECT_FALSE(ExisteArchivo(Ruta("viejo.vdm")));
-    EXPECT_FALSE(modelo().Modificado);
-    EXPECT_EQ(dialogos.Peticiones()[0].nombreArchivo, Ruta("viejo.vdm"));
-}
-
-TEST_F(ComandosModelo, ACancelledSaveAsLeavesTheFileNameAndWritesNothing) {
-    ModeloModificado(Ruta("viejo.vdm"));
-    pruebas::GuionDialogos dialogos;
-    dialogos.Cancelar(tituloGuardar);
-    EXPECT_FALSE(GuardarComo(modelo(), Directorio()));
-    EXPECT_EQ(modelo().Archivo, Ruta("viejo.vdm"));
-    EXPECT_FALSE(ExisteArchivo(Ruta("viejo.vdm")));
-    EXPECT_TRUE(modelo().Modificado);
-}
-
 TEST_F(ComandosModelo, ClosingAnUnmodifiedModelAsksNothing) {
     modelo().Archivo = Ruta("m.vdm");
     EXPECT_TRUE(GuardarAlCerrar(modelo(), Directorio()));
     EXPECT_TRUE(mensajes.Vistos().empty());
     EXPECT_FALSE(ExisteArchivo(Ruta("m.vdm")));
-}
-
-TEST_F(ComandosModelo, CancelAtClosingKeepsTheWindowAndTheModel) {
-    ModeloModificado(Ruta("m.vdm"));
-    const Modelo antes = modelo();
-    mensajes.Esperar("VADRO PROGRAMADOR", preguntaCierre, Respuesta::Cancelar);
-    EXPECT_FALSE(GuardarAlCerrar(modelo(), Directorio()));
-    EXPECT_EQ(mensajes.Vistos().back().botones, Botones::SiNoCancelar);
-    EXPECT_EQ(modelo(), antes);
-    EXPECT_FALSE(ExisteArchivo(Ruta("m.vdm")));
-}
-
-TEST_F(ComandosModelo, NoAtClosingLetsItGoWithoutSaving) {
-    ModeloModificado(Ruta("m.vdm"));
-    mensajes.Esperar("VADRO PROGRAMADOR", preguntaCierre, Respuesta::No);
-    EXPECT_TRUE(GuardarAlCerrar(modelo(), Directorio()));
-    EXPECT_FALSE(ExisteArchivo(Ruta("m.vdm")));
-}
-
-TEST_F(ComandosModelo, YesAtClosingSavesToTheModelFile) {
-    ModeloModificado(Ruta("m.vdm"));
-    pruebas::GuionDialogos dialogos; // no dialog: the file is known
-    mensajes.Esperar("VADRO PROGRAMADOR", preguntaCierre, Respuesta::Si);
-    EXPECT_TRUE(GuardarAlCerrar(modelo(), Directorio()));
-    EXPECT_EQ(NombreGuardadoEn(Ruta("m.vdm")), "Depuradora");
-    EXPECT_FALSE(modelo().Modificado);
-}
-
-TEST_F(ComandosModelo, YesAtClosingANeverSavedModelAsksForAName) {
-    ModeloModificado("");
-    pruebas::GuionDialogos dialogos;
-    dialogos.Elegir(tituloGuardar, Ruta("elegido.vdm"));
-    mensajes.Esperar("VADRO PROGRAMADOR", preguntaCierre, Respuesta::Si);
-    EXPECT_TRUE(GuardarAlCerrar(modelo(), Directorio()));
-    EXPECT_EQ(dialogos.Peticiones()[0].directorioInicial,
-              UnirRuta(Directorio(), "Archivos de proyecto"));
-    EXPECT_EQ(NombreGuardadoEn(Ruta("elegido.vdm")), "Depuradora");
 }
 
 TEST_F(ComandosModelo, ACancelledNameAtClosingStillLetsTheWindowClose) {

@@ -79,18 +79,12 @@ TEST_F(SaltosPanel, ResumenFromEjesAcceptsTheDesignWindows) {
     EXPECT_TRUE(principal.cmdContinuar->isEnabled());
 }
 
-TEST_F(SaltosPanel, ResumenFromTheWeightsUnloadsThem) {
+TEST_F(SaltosPanel, ResumenUnloadsTheWeightsButNotTheReport) {
     NuevoModelo();
     principal.cmdContinuar->click();
     ContinuarAceptandoPermisos();
     PulsarEtiqueta(4);
     EXPECT_EQ(Hijas(), Strings{"frmResumen"});
-    EXPECT_EQ(principal.Posicion(), "Resumen");
-}
-
-TEST_F(SaltosPanel, ResumenFromInformeLeavesTheReportOpen) {
-    NuevoModelo();
-    principal.cmdContinuar->click();
     ContinuarAceptandoPermisos();
     principal.cmdContinuar->click();
     PulsarEtiqueta(4);
@@ -108,19 +102,12 @@ TEST_F(SaltosPanel, PesosFromEjesSkipsTheQuestionAndLeavesTheAxes) {
     EsperarAjusteB();
 }
 
-TEST_F(SaltosPanel, PesosFromResumenUnloadsTheSummary) {
+TEST_F(SaltosPanel, PesosFromResumenUnloadsTheSummaryAndItsMark) {
     NuevoModelo();
     principal.cmdContinuar->click();
+    EXPECT_TRUE(Negrita(4)) << "the summary marks its label while it is open";
     PulsarEtiqueta(6);
     EXPECT_EQ(Hijas(), Strings{"frmPonderacion"});
-    EXPECT_FALSE(Negrita(4)) << "the summary label loses its bold with the summary";
-}
-
-TEST_F(SaltosPanel, TheSummaryMarksItsLabelWhileItIsOpen) {
-    NuevoModelo();
-    principal.cmdContinuar->click();
-    EXPECT_TRUE(Negrita(4));
-    principal.cmdRetroceder->click();
     EXPECT_FALSE(Negrita(4));
 }
 
