@@ -1,41 +1,182 @@
 #pragma once
 
 #include "windows/core/ventana.h"
+#include "windows/shell/ventana_hija.h"
 
 #include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+#include <array>
+#include <string>
+#include <vector>
 
 class QAction;
-class QMdiArea;
+class QFrame;
+class QLabel;
 class QMenu;
+class QPushButton;
+class QStatusBar;
+class QTimer;
+class QToolBar;
 
 namespace vadro {
 
-// The one multiple-document window of the program.
+class EtiquetaPaso;
+
+// The one multiple-document window of the program. It owns the position of the workflow,
+// the step panel, the menus, the toolbar and the status bar; every other window is its child
+// or a modal dialog.
 class frmPrincipal : public QMainWindow, public Ventana {
     Q_OBJECT
 public:
     explicit frmPrincipal(QWidget* padre = nullptr);
     void AjustarControles() override;
 
-    // The model commands that the start screen leads to.
+    // The commands on the model as a whole.
     void Nuevo();
     void Abrir();
+    void Guardar();
+    void GuardarComo();
+    void Compilar();
+    void Imprimir();
+
+    // The walk along the line of positions.
+    void Continuar();
+    void Retroceder();
+    void lblMenu_Click(int indice);
+    void tlbPrincipal_ButtonClick(const QString& clave);
+
+    // The doors to the three design windows.
+    void AbrirRequerimientos();
+    void AbrirComponentes();
+    void AbrirEtapas();
+
+    // "Ejes", "Resumen", "Ponderacion", "Informe"; empty before a model is open.
+    const std::string& Posicion() const { return posicion_; }
+    void FijarPosicion(const std::string& posicion) { posicion_ = posicion; }
+
+    // Panel 1 of the status bar: the position, or a hint.
+    void EscribirPosicion();
+    void EscribirEstado(const QString& texto);
+    QString TextoEstado() const;
+
+    // The two settings of the controls: A at the design of the system, B in review.
+    void AjusteDiseno();
+    void AjusteRevision();
+
+    // Step labels: the normal look when the step is satisfied, red and bold when it is not.
+    void MarcarPaso(int indice, bool satisfecho);
+    void PintarEtiqueta(int indice, const QColor& color, bool negrita);
+    void EtiquetaNegrita(int indice, bool negrita);
+    QColor ColorNormal() const;
+
+    // A toolbar button by its place, from 1, separators counted.
+    QAction* Boton(int indice) const;
+
+    // The child windows. A window is open while it is loaded: its `Cargado` flag says so.
+    template <typename T> T* Abierta() const {
+        for (QMdiSubWindow* marco : mdiCliente->subWindowList()) {
+            if (auto* ventana = dynamic_cast<T*>(marco->widget());
+                ventana != nullptr && ventana->Cargado) {
+                return ventana;
+            }
+        }
+        return nullptr;
+    }
+    // Loads a window, or brings it to the front when it is open already.
+    template <typename T> T& Cargar() {
+        if (T* abierta = Abierta<T>()) {
+            mdiCliente->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(abierta->parentWidget()));
+            return *abierta;
+        }
+        auto* ventana = new T(*this);
+        Alojar(*ventana);
+        return *ventana;
+    }
+    // Unloads a window if it is open.
+    template <typename T> void Descargar() {
+        if (T* abierta = Abierta<T>()) {
+            abierta->Descargar();
+        }
+    }
 
     // Whether the notice before the first function drawing shows; for this session only.
     bool MostrarAvisoFuncionValor = true;
 
-    QMdiArea* pctFondo;
+    QMdiArea* mdiCliente;
+    QWidget* pctFondo;
+    QFrame* pctPrincipal;
+    std::array<EtiquetaPaso*, 9> lblMenu{};
+    QPushButton* cmdRetroceder;
+    QPushButton* cmdContinuar;
+    QStatusBar* stbEstado;
+    QToolBar* tlbPrincipal;
+    QTimer* tmrAutoguardado;
+
     QMenu* mnuArchivo;
+    QAction* mnuNuevo;
+    QAction* mnuAbrir;
+    QAction* mnuGuardar;
+    QAction* mnuGuardarComo;
+    QAction* mnuVista;
+    QAction* mnuImprimir;
     QAction* mnuPreferencias;
     QAction* mnuSalir;
+    QMenu* mnuModelo;
+    QMenu* mnuImportar;
+    QAction* mnuImportarR;
+    QAction* mnuImportarComp;
+    QAction* mnuImportarEtapas;
+    QMenu* mnuExportar;
+    QAction* mnuExportarR;
+    QAction* mnuExportarComp;
+    QAction* mnuExportarEtapas;
+    QAction* mnuPermitirSubcriterios;
+    QAction* mnuConfiguracionEjes;
+    QAction* mnuRequerimientos;
+    QAction* mnuComponentes;
+    QAction* mnuEtapas;
+    QAction* mnuCompilar;
+    QAction* mnuPropiedades;
+    QMenu* mnuArbolR;
+    QMenu* mnuArbolC;
+    QMenu* mnuVentana;
+    QAction* mnuOrganizar;
     QMenu* mnuAyuda;
+    QAction* mnuManual;
     QAction* mnuAcercaDe;
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
-    void CerrarPantallaInicio();
+    void CrearPanelPasos();
+    void CrearBarraHerramientas();
+    void CrearMenus();
+    void CrearMenusArbol();
+    void ConectarMenus();
+
+    void Alojar(VentanaHija& ventana);
+    void AceptarVentanasDiseno();
+    void DescargarVentanasDiseno();
+    void DescargarTodas();
+    void FinalDeModelo();
+    void SaltarAResumen();
+    void SaltarAPonderacion();
+    void EntradasDiseno(bool habilitadas);
+    void GrupoDiseno(bool visible);
+    void TituloConArchivo(const std::string& archivo);
+    bool CerrarHijas();
+    struct VentanasAbiertas {
+        bool ejes, requerimientos, componentes, etapas, resumen, ponderacion;
+    };
+    void RecargarPosicion(const VentanasAbiertas& abiertas);
+
+    std::string posicion_;
+    QLabel* panelEstado_;
+    std::vector<QAction*> botones_;
 };
 
 } // namespace vadro

@@ -72,7 +72,10 @@ TEST_F(Arranque_, TheStartScreenLeadsToNuevoWhichClosesIt) {
         EXPECT_FALSE(inicio.isVisible());
         EXPECT_EQ(frmInicio::Abierto(), nullptr);
     });
+    // Nuevo shows the properties of the new model.
+    modales.Esperar(QStringLiteral("frmPropiedades"), [](QDialog& d) { d.accept(); });
     ASSERT_TRUE(arranque.Iniciar());
+    EXPECT_EQ(arranque.Principal()->Posicion(), "Ejes");
 }
 
 TEST_F(Arranque_, ASecondInstanceIsOnlyAQuestion) {

@@ -1,0 +1,52 @@
+#include "core/shell/flujo_trabajo.h"
+
+#include "core/core/mensajes.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace vadro {
+
+namespace {
+
+constexpr const char* kTituloFinal = "VADRO PROGRAMADOR: final de modelo";
+constexpr const char* kQueHacerAhora =
+    "Guarde el modelo y cierre la aplicación, cree un modelo nuevo o abra uno existente.";
+
+} // namespace
+
+std::string TextoPosicion(const std::string& posicion) {
+    std::string minusculas = posicion;
+    std::transform(minusculas.begin(), minusculas.end(), minusculas.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return "Posición: " + minusculas;
+}
+
+bool HayElementos(const ValorLibre& cuenta) {
+    return !cuenta.EsVacio() && cuenta.Cuenta() > 0;
+}
+
+bool PreguntarCompilarAlFinal(const Modelo& modelo) {
+    const std::string inicio = "Ya ha completado el diseño del modelo.\n\r";
+    if (modelo.Compilado) {
+        MsgBox(inicio + kQueHacerAhora, Botones::Aceptar, Icono::Informacion, kTituloFinal);
+        return false;
+    }
+    if (MsgBox(inicio + "Desea compilarlo para detectar posibles errores?", Botones::SiNo,
+               Icono::Pregunta, kTituloFinal) == Respuesta::Si) {
+        return true;
+    }
+    MsgBox(kQueHacerAhora, Botones::Aceptar, Icono::Informacion, kTituloFinal);
+    return false;
+}
+
+bool ModeloCompilable(const Modelo& modelo) {
+    if (HayElementos(modelo.NumRequerimientos)) {
+        return true;
+    }
+    MsgBox("Imposible compilar. El modelo está vacío.", Botones::Aceptar, Icono::Critico,
+           "VADRO PROGRAMADOR: Compilar modelo");
+    return false;
+}
+
+} // namespace vadro

@@ -1,0 +1,49 @@
+#include "windows/shell/frmPropiedades.h"
+
+#include "windows/core/ajustar_fuente.h"
+#include "windows/core/texto.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace vadro {
+
+frmPropiedades::frmPropiedades(QWidget* padre) : QDialog(padre) {
+    setObjectName(Q("frmPropiedades"));
+    setWindowTitle(Q("Propiedades del modelo"));
+    cmdAceptar = new QPushButton(Q("Aceptar"), this);
+    cmdAceptar->setObjectName(Q("cmdAceptar"));
+    cmdAceptar->setDefault(true);
+    cmdCancelar = new QPushButton(Q("Cancelar"), this);
+    cmdCancelar->setObjectName(Q("cmdCancelar"));
+    auto* botones = new QHBoxLayout;
+    botones->addStretch();
+    botones->addWidget(cmdAceptar);
+    botones->addWidget(cmdCancelar);
+    auto* columna = new QVBoxLayout(this);
+    columna->addStretch();
+    columna->addLayout(botones);
+    resize(360, 120);
+
+    connect(cmdAceptar, &QPushButton::clicked, this, &frmPropiedades::cmdAceptar_Click);
+    connect(cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
+    Cargado = true;
+    AjustarControles();
+}
+
+void frmPropiedades::AjustarControles() {
+    AjustarFuente(*this);
+}
+
+void frmPropiedades::cmdAceptar_Click() {
+    // The dialog holds no field yet, so there is nothing to copy into the model.
+    accept();
+}
+
+void frmPropiedades::done(int resultado) {
+    Cargado = false;
+    QDialog::done(resultado);
+}
+
+} // namespace vadro

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "windows/shell/ventana_hija.h"
+
+class QPushButton;
+
+namespace vadro {
+
+// A design window: it works on a copy of one part of the model and writes it back when it is
+// accepted, by its own button or by the main window leaving "Ejes" forwards.
+class VentanaDiseno : public VentanaHija {
+    Q_OBJECT
+public:
+    VentanaDiseno(frmPrincipal& principal, const char* nombre, const char* titulo);
+
+    QPushButton* cmdAceptar;
+    virtual void cmdAceptar_Click() = 0;
+
+    void Colocar(QMdiSubWindow& marco, const QRect& cliente) override;
+    bool OcupaCliente() const override { return false; }
+};
+
+} // namespace vadro

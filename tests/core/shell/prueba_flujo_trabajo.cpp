@@ -1,0 +1,75 @@
+#include "core/shell/flujo_trabajo.h"
+#include "soporte/prueba_sesion.h"
+
+#include <gtest/gtest.h>
+
+namespace vadro {
+namespace {
+
+class FlujoTrabajo : public pruebas::PruebaSesion {
+protected:
+    const std::string titulo = "VADRO PROGRAMADOR: final de modelo";
+    const std::string queHacer =
+        "Guarde el modelo y cierre la aplicación, cree un modelo nuevo o abra uno existente.";
+};
+
+TEST_F(FlujoTrabajo, TheStatusTextShowsThePositionInLowerCase) {
+    EXPECT_EQ(TextoPosicion(kPosicionEjes), "Posición: ejes");
+    EXPECT_EQ(TextoPosicion(kPosicionResumen), "Posición: resumen");
+    EXPECT_EQ(TextoPosicion(kPosicionPonderacion), "Posición: ponderacion");
+    EXPECT_EQ(TextoPosicion(kPosicionInforme), "Posición: informe");
+    EXPECT_EQ(TextoPosicion(""), "Posición: ") << "before a model is open";
+}
+
+TEST_F(FlujoTrabajo, AnEmptyCountAndZeroBothMeanNone) {
+    EXPECT_FALSE(HayElementos(ValorLibre()));
+    EXPECT_FALSE(HayElementos(0));
+    EXPECT_FALSE(HayElementos("0"));
+    EXPECT_TRUE(HayElementos(1));
+    EXPECT_TRUE(HayElementos(" 3 ")) << "a count read from a file as text";
+}
+
+TEST_F(FlujoTrabajo, ACompiledModelOnlyHearsWhatToDoNext) {
+    sesion().modelo.Compilado = true;
+    mensajes.Esperar(titulo, "Ya ha completado el diseño del modelo.\n\r" + queHacer);
+    EXPECT_FALSE(PreguntarCompilarAlFinal(sesion().modelo));
+    ASSERT_EQ(mensajes.Vistos().size(), 1u);
+    EXPECT_EQ(mensajes.Vistos()[0].botones, Botones::Aceptar);
+    EXPECT_EQ(mensajes.Vistos()[0].icono, Icono::Informacion);
+}
+
+TEST_F(FlujoTrabajo, AModelNotCompiledIsAskedAndYesAsksForTheCompilation) {
+    mensajes.Esperar(titulo,
+                     "Ya ha completado el diseño del modelo.\n\r"
+                     "Desea compilarlo para detectar posibles errores?",
+                     Respuesta::Si);
+    EXPECT_TRUE(PreguntarCompilarAlFinal(sesion().modelo));
+    ASSERT_EQ(mensajes.Vistos().size(), 1u);
+    EXPECT_EQ(mensajes.Vistos()[0].botones, Botones::SiNo);
+}
+
+TEST_F(FlujoTrabajo, NoToTheCompilationLeavesTheAdviceAlone) {
+    mensajes.Esperar(titulo,
+                     "Ya ha completado el diseño del modelo.\n\r"
+                     "Desea compilarlo para detectar posibles errores?",
+                     Respuesta::No);
+    mensajes.Esperar(titulo, queHacer);
+    EXPECT_FALSE(PreguntarCompilarAlFinal(sesion().modelo));
+    EXPECT_EQ(mensajes.Vistos().back().icono, Icono::Informacion);
+}
+
+TEST_F(FlujoTrabajo, AModelWithoutRequirementsCannotBeCompiled) {
+    for (const ValorLibre& cuenta : {ValorLibre(), ValorLibre(0)}) {
+        sesion().modelo.NumRequerimientos = cuenta;
+        mensajes.Esperar("VADRO PROGRAMADOR: Compilar modelo",
+                         "Imposible compilar. El modelo está vacío.");
+        EXPECT_FALSE(ModeloCompilable(sesion().modelo));
+        EXPECT_EQ(mensajes.Vistos().back().icono, Icono::Critico);
+    }
+    sesion().modelo.NumRequerimientos = 2;
+    EXPECT_TRUE(ModeloCompilable(sesion().modelo));
+    EXPECT_EQ(mensajes.Vistos().size(), 2u) << "no message for a model with requirements";
+}
+
+} // namespace
+} // namespace vadro

@@ -1,0 +1,178 @@
+#include "ventana_principal.h"
+
+#include "core/core/archivos.h"
+#include "core/core/version.h"
+#include "core/files/modelo_archivo.h"
+#include "soporte/guion_dialogos.h"
+#include "windows/core/frmInicio.h"
+#include "windows/core/modal.h"
+
+#include <QMenu>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace vadro {
+namespace {
+
+using pruebas::Hijo;
+using Strings = std::vector<std::string>;
+
+class Comandos : public pruebas::VentanaPrincipal {
+protected:
+    static std::string NombreGuardadoEn(const std::string& ruta) {
+        Modelo leido;
+        CargarModelo(leido, ruta);
+        return leido.Nombre;
+    }
+    const std::string tituloNuevo = "VADRO PROGRAMADOR: Nuevo modelo";
+    const std::string preguntaNuevo = "Desea guardar el modelo activo?";
+};
+
+TEST_F(Comandos, NuevoBlanksTheModelAndMarksTheThreeDesignSteps) {
+    Modelo& m = sesion().modelo;
+    m.Nombre = "viejo";
+    m.Archivo = Ruta("viejo.vdm");
+    m.NumRequerimientos = 3;
+    m.EjeX = "X";
+    principal.MarcarPaso(1, true);
+    principal.MarcarPaso(2, true);
+    NuevoModelo();
+    EXPECT_EQ(m.Nombre, "");
+    EXPECT_EQ(m.Archivo, "");
+    EXPECT_EQ(m.NumRequerimientos, ValorLibre(0));
+    EXPECT_EQ(m.EjeX, "Tiempo");
+    EXPECT_EQ(m.Aplicacion, VersionPrograma());
+    for (int i : {1, 2, 3}) {
+        EsperarPendiente(i);
+    }
+}
+
+TEST_F(Comandos, NuevoUnloadsEveryOtherWindowBeforeTheProperties) {
+    NuevoModelo();
+    principal.cmdContinuar->click();
+    PulsarEtiqueta(1);
+    PulsarEtiqueta(6);
+    ASSERT_EQ(Hijas(), (Strings{"frmRequerimientos", "frmPonderacion"}));
+    modales.Esperar(QStringLiteral("frmPropiedades"), [this](QDialog& propiedades) {
+        EXPECT_TRUE(Hijas().empty());
+        propiedades.reject();
+    });
+    PulsarBoton("Nuevo");
+    EXPECT_EQ(Hijas(), Strings{"frmEjes"}) << "a cancelled dialog leaves the new model in place";
+    EXPECT_EQ(principal.Posicion(), "Ejes");
+    EXPECT_EQ(Estado(), "Posición: ejes");
+}
+
+TEST_F(Comandos, CancelAtTheQuestionOfNuevoChangesNothing) {
+    NuevoModelo();
+    principal.cmdContinuar->click();
+    sesion().modelo.Modificado = true;
+    sesion().modelo.Nombre = "en curso";
+    mensajes.Esperar(tituloNuevo, preguntaNuevo, Respuesta::Cancelar);
+    principal.mnuNuevo->trigger();
+    EXPECT_EQ(sesion().modelo.Nombre, "en curso");
+    EXPECT_EQ(principal.Posicion(), "Resumen");
+    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
+}
+
+TEST_F(Comandos, YesAtTheQuestionOfNuevoSavesTheModelFirst) {
+    const std::string ruta = Ruta("activo.vdm");
+    sesion().modelo.Modificado = true;
+    sesion().modelo.Nombre = "activo";
+    sesion().modelo.Archivo = ruta;
+    mensajes.Esperar(tituloNuevo, preguntaNuevo, Respuesta::Si);
+    NuevoModelo();
+    EXPECT_EQ(NombreGuardadoEn(ruta), "activo");
+    EXPECT_EQ(sesion().modelo.Nombre, "");
+    EXPECT_EQ(principal.Posicion(), "Ejes");
+}
+
+TEST_F(Comandos, TheStartScreenLeadsToANewModelAndClosesItself) {
+    modales.Esperar(QStringLiteral("frmInicio"), [](QDialog& inicio) {
+        Hijo<QPushButton>(inicio, "cmdNuevo")->click();
+        EXPECT_FALSE(inicio.isVisible());
+    });
+    modales.Esperar(QStringLiteral("frmPropiedades"), [](QDialog& d) { d.accept(); });
+    frmInicio inicio([this] { principal.Nuevo(); }, [this] { principal.Abrir(); }, &principal);
+    MostrarModal(inicio);
+    EXPECT_EQ(frmInicio::Abierto(), nullptr);
+    EXPECT_EQ(principal.Posicion(), "Ejes");
+    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
+}
+
+TEST_F(Comandos, AnExistingModelFromTheStartScreenOnlyClosesItForNow) {
+    modales.Esperar(QStringLiteral("frmInicio"), [](QDialog& inicio) {
+        Hijo<QPushButton>(inicio, "cmdExistente")->click();
+        EXPECT_FALSE(inicio.isVisible());
+    });
+    frmInicio inicio([this] { principal.Nuevo(); }, [this] { principal.Abrir(); }, &principal);
+    MostrarModal(inicio);
+    EXPECT_EQ(principal.Posicion(), "");
+    EXPECT_TRUE(Hijas().empty());
+    PulsarBoton("Abrir");
+    PulsarBoton("Imprimir");
+    EXPECT_TRUE(Hijas().empty());
+}
+
+TEST_F(Comandos, SavingANewModelAsksForANameAndShowsItInTheCaption) {
+    NuevoModelo();
+    const std::string ruta = Ruta("nuevo.vdm");
+    pruebas::GuionDialogos dialogos;
+    dialogos.Cancelar("Guardar modelo como...");
+    PulsarBoton("Guardar");
+    EXPECT_EQ(principal.windowTitle().toStdString(), "VADRO PROGRAMADOR - [...]");
+    EXPECT_FALSE(ExisteArchivo(ruta));
+
+    sesion().modelo.Nombre = "planta";
+    dialogos.Elegir("Guardar modelo como...", ruta);
+    principal.mnuGuardar->trigger();
+    EXPECT_EQ(principal.windowTitle().toStdString(), "VADRO PROGRAMADOR - [" + ruta + "]");
+    EXPECT_EQ(NombreGuardadoEn(ruta), "planta");
+    EXPECT_EQ(dialogos.Peticiones()[1].directorioInicial,
+              UnirRuta(Directorio(), "Archivos de proyecto"));
+
+    sesion().modelo.Nombre = "planta 2";
+    PulsarBoton("Guardar"); // a known model file: no dialog
+    EXPECT_EQ(NombreGuardadoEn(ruta), "planta 2");
+}
+
+TEST_F(Comandos, AModelFromACompiledFileIsNeverSavedOverIt) {
+    NuevoModelo();
+    const std::string compilado = Ruta("planta.vdc");
+    sesion().modelo.Archivo = compilado;
+    pruebas::GuionDialogos dialogos;
+    dialogos.Elegir("Guardar modelo como...", Ruta("planta.vdm"));
+    principal.mnuGuardar->trigger();
+    EXPECT_FALSE(ExisteArchivo(compilado));
+    EXPECT_EQ(dialogos.Peticiones()[0].nombreArchivo, "planta.vdc");
+    EXPECT_EQ(sesion().modelo.Archivo, Ruta("planta.vdm"));
+}
+
+TEST_F(Comandos, SaveAsAlwaysAsksAndKeepsTheCaptionWhenCancelled) {
+    NuevoModelo();
+    sesion().modelo.Archivo = Ruta("a.vdm");
+    pruebas::GuionDialogos dialogos;
+    dialogos.Cancelar("Guardar modelo como...");
+    dialogos.Elegir("Guardar modelo como...", Ruta("b.vdm"));
+    principal.mnuGuardarComo->trigger();
+    EXPECT_EQ(principal.windowTitle().toStdString(), "VADRO PROGRAMADOR - [...]");
+    principal.mnuGuardarComo->trigger();
+    EXPECT_EQ(principal.windowTitle().toStdString(), "VADRO PROGRAMADOR - [" + Ruta("b.vdm") + "]");
+    EXPECT_TRUE(ExisteArchivo(Ruta("b.vdm")));
+    EXPECT_FALSE(ExisteArchivo(Ruta("a.vdm")));
+}
+
+TEST_F(Comandos, CompilingFromTheToolbarWorksAtEveryPosition) {
+    sesion().modelo.NumRequerimientos = 1;
+    PulsarBoton("Compilar");
+    EXPECT_EQ(Hijas(), Strings{"frmCompilacion"}) << "even before a model is open";
+    NuevoModelo();
+    sesion().modelo.NumRequerimientos = 1;
+    principal.cmdContinuar->click();
+    PulsarBoton("Compilar");
+    EXPECT_EQ(Hijas(), (Strings{"frmResumen", "frmCompilacion"}));
+}
+
+} // namespace
+} // namespace vadro

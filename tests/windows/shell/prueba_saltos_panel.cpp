@@ -1,0 +1,144 @@
+#include "ventana_principal.h"
+
+#include "windows/trees/frmRequerimientos.h"
+
+#include <QMenu>
+
+#include <gtest/gtest.h>
+
+namespace vadro {
+namespace {
+
+using Strings = std::vector<std::string>;
+
+class SaltosPanel : public pruebas::VentanaPrincipal {};
+
+TEST_F(SaltosPanel, TheCaptionsOfTheStepPanel) {
+    const Strings esperados = {"Definición del sistema",
+                               "Requerimientos",
+                               "Componentes",
+                               "Ciclo de vida",
+                               "Resumen",
+                               "Ponderación de elementos del árbol",
+                               "Pesos",
+                               "Control",
+                               "Compilación"};
+    for (std::size_t i = 0; i < esperados.size(); ++i) {
+        EXPECT_EQ(principal.lblMenu.at(i)->text().toStdString(), esperados[i]);
+        EXPECT_EQ(principal.lblMenu.at(i)->objectName().toStdString(),
+                  "lblMenu(" + std::to_string(i) + ")");
+    }
+}
+
+TEST_F(SaltosPanel, TheHeadingsDoNothing) {
+    NuevoModelo();
+    for (int i : {0, 5, 7}) {
+        PulsarEtiqueta(i);
+    }
+    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
+    EXPECT_EQ(principal.Posicion(), "Ejes");
+}
+
+TEST_F(SaltosPanel, TheFirstThreeLabelsOpenTheDesignWindowsOnce) {
+    NuevoModelo();
+    PulsarEtiqueta(1);
+    PulsarEtiqueta(2);
+    PulsarEtiqueta(3);
+    PulsarEtiqueta(1);
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmRequerimientos", "frmComponentes", "frmEtapas"}));
+    EXPECT_EQ(principal.mdiCliente->activeSubWindow()->widget(),
+              principal.Abierta<frmRequerimientos>())
+        << "an open window comes to the front";
+}
+
+TEST_F(SaltosPanel, ResumenFromEjesAcceptsTheDesignWindows) {
+    NuevoModelo();
+    // Back at "Ejes" from the summary, Retroceder of the panel is off.
+    principal.cmdContinuar->click();
+    principal.cmdRetroceder->click();
+    PulsarEtiqueta(2);
+    PulsarEtiqueta(3);
+    sesion().modelo.NumComponentes = 4;
+    PulsarEtiqueta(4);
+    EXPECT_EQ(principal.Posicion(), "Resumen");
+    EXPECT_EQ(Estado(), "Posición: resumen");
+    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
+    EsperarNormal(2);
+    EsperarPendiente(3);
+    EXPECT_FALSE(principal.pctFondo->isVisible());
+    for (QAction* entrada : {principal.mnuConfiguracionEjes, principal.mnuRequerimientos,
+                             principal.mnuComponentes, principal.mnuEtapas}) {
+        EXPECT_FALSE(entrada->isEnabled());
+    }
+    EXPECT_TRUE(Habilitado(8));
+    EXPECT_TRUE(Habilitado(9));
+    for (int i = 10; i <= 13; ++i) {
+        EXPECT_FALSE(Visible(i));
+    }
+    EXPECT_FALSE(principal.cmdRetroceder->isEnabled()) << "the panel's buttons are not touched";
+    EXPECT_TRUE(principal.cmdContinuar->isEnabled());
+}
+
+TEST_F(SaltosPanel, ResumenUnloadsTheWeightsButNotTheReport) {
+    NuevoModelo();
+    principal.cmdContinuar->click();
+    ContinuarAceptandoPermisos();
+    PulsarEtiqueta(4);
+    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
+    ContinuarAceptandoPermisos();
+    principal.cmdContinuar->click();
+    PulsarEtiqueta(4);
+    EXPECT_EQ(Hijas(), (Strings{"frmInforme", "frmResumen"}));
+    EXPECT_EQ(principal.Posicion(), "Resumen");
+}
+
+TEST_F(SaltosPanel, PesosFromEjesSkipsTheQuestionAndLeavesTheAxes) {
+    NuevoModelo();
+    PulsarEtiqueta(6); // the script of modal windows would fail on the question
+    EXPECT_EQ(principal.Posicion(), "Ponderacion");
+    EXPECT_EQ(Estado(), "Posición: ponderacion");
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmPonderacion"}));
+    EXPECT_FALSE(principal.mnuImportar->menuAction()->isEnabled());
+    EsperarAjusteB();
+}
+
+TEST_F(SaltosPanel, PesosFromResumenUnloadsTheSummaryAndItsMark) {
+    NuevoModelo();
+    principal.cmdContinuar->click();
+    EXPECT_TRUE(Negrita(4)) << "the summary marks its label while it is open";
+    PulsarEtiqueta(6);
+    EXPECT_EQ(Hijas(), Strings{"frmPonderacion"});
+    EXPECT_FALSE(Negrita(4));
+}
+
+TEST_F(SaltosPanel, CompilationLabelRefusesAnEmptyModelAndKeepsItsColour) {
+    NuevoModelo();
+    for (const ValorLibre& cuenta : {ValorLibre(), ValorLibre(0)}) {
+        sesion().modelo.NumRequerimientos = cuenta;
+        mensajes.Esperar("VADRO PROGRAMADOR: Compilar modelo",
+                         "Imposible compilar. El modelo está vacío.");
+        PulsarEtiqueta(8);
+        EXPECT_EQ(mensajes.Vistos().back().icono, Icono::Critico);
+        EsperarPendiente(8);
+        EXPECT_EQ(Hijas(), Strings{"frmEjes"});
+    }
+}
+
+TEST_F(SaltosPanel, CompilationPaintsItsLabelBlackAndOpensTheWindowAnew) {
+    NuevoModelo();
+    sesion().modelo.NumRequerimientos = 2;
+    PulsarEtiqueta(8);
+    EXPECT_EQ(Color(8), QColor(0, 0, 0));
+    EXPECT_FALSE(Negrita(8));
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmCompilacion"}));
+    QWidget* primera = Hija("frmCompilacion");
+    EXPECT_EQ(primera->windowTitle().toStdString(), "Compilación");
+
+    principal.mnuCompilar->trigger();
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmCompilacion"}));
+    EXPECT_NE(Hija("frmCompilacion"), primera) << "the open one is unloaded and loaded again";
+    EXPECT_EQ(principal.Posicion(), "Ejes") << "compiling does not move along the line";
+}
+
+} // namespace
+} // namespace vadro
