@@ -102,15 +102,12 @@ bool NecesitaNombre(const std::string& archivo) {
 
 bool ElegirArchivoModelo(Modelo& modelo, const std::string& directorioPrograma,
                          bool nombreCompleto) {
-    try {
-        modelo.Archivo = MostrarDialogoArchivo(
-            PeticionGuardarModelo(modelo.Archivo, directorioPrograma, nombreCompleto));
-    } catch (const ErrorEjecucion& error) {
-        if (error.Numero() == ErrCancelar) {
-            return false;
-        }
-        throw;
+    const auto ruta =
+        ElegirArchivo(PeticionGuardarModelo(modelo.Archivo, directorioPrograma, nombreCompleto));
+    if (!ruta) {
+        return false;
     }
+    modelo.Archivo = *ruta;
     return true;
 }
 
