@@ -18,7 +18,7 @@ double RedondearCuatroDecimales(double valor) {
     return std::nearbyint(valor * 10000) / 10000;
 }
 
-template <typename Funcion> std::optional<CurvaContinua> CurvaDe(const Funcion &funcion) {
+template <typename Funcion> std::optional<CurvaContinua> CurvaDe(const Funcion& funcion) {
     if (funcion.RMin.EsVacio() || funcion.RMax.EsVacio() || funcion.C.EsVacio() ||
         funcion.K.EsVacio() || funcion.P.EsVacio()) {
         return std::nullopt;
@@ -104,11 +104,11 @@ double CurvaContinua::Nivel() const {
     return NivelReferencia(B, RMin, RMax, D, K, P);
 }
 
-std::optional<CurvaContinua> CurvaAlmacenada(const FuncionValor &funcion) {
+std::optional<CurvaContinua> CurvaAlmacenada(const FuncionValor& funcion) {
     return CurvaDe(funcion);
 }
 
-std::optional<CurvaContinua> CurvaAlmacenada(const FuncionOptativo &funcion) {
+std::optional<CurvaContinua> CurvaAlmacenada(const FuncionOptativo& funcion) {
     return CurvaDe(funcion);
 }
 

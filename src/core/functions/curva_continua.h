@@ -68,7 +68,7 @@ struct CurvaContinua {
 
 // Nothing unless `RMin`, `RMax`, `C`, `K` and `P` are all defined, the range is above 0, D is
 // above 0 and the denominator is not 0.
-std::optional<CurvaContinua> CurvaAlmacenada(const FuncionValor &funcion);
-std::optional<CurvaContinua> CurvaAlmacenada(const FuncionOptativo &funcion);
+std::optional<CurvaContinua> CurvaAlmacenada(const FuncionValor& funcion);
+std::optional<CurvaContinua> CurvaAlmacenada(const FuncionOptativo& funcion);
 
 } // namespace vadro

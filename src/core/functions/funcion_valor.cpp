@@ -8,7 +8,7 @@ namespace {
 
 // Bytes of the first character of a UTF-8 text, so that a symbol outside ASCII is dropped
 // whole.
-std::size_t LargoPrimerCaracter(const std::string &texto) {
+std::size_t LargoPrimerCaracter(const std::string& texto) {
     if (texto.empty()) {
         return 0;
     }
@@ -26,7 +26,7 @@ std::size_t LargoPrimerCaracter(const std::string &texto) {
 
 // A closed first step leaves its number outside the range with an open limit; an open first
 // step, a closed limit; a step that is open at its start leaves no lower limit at all.
-void NormalizarInferior(ValorLibre &limite, const ValorLibre &inicio) {
+void NormalizarInferior(ValorLibre& limite, const ValorLibre& inicio) {
     if (limite.EsVacio() || inicio.EsVacio()) {
         return;
     }
@@ -43,7 +43,7 @@ void NormalizarInferior(ValorLibre &limite, const ValorLibre &inicio) {
 
 // The mirror image for the upper limit, except that an end marked "<" keeps the limit's own
 // symbol: the program has always treated the two ends unequally, and files depend on it.
-void NormalizarSuperior(ValorLibre &limite, const ValorLibre &fin) {
+void NormalizarSuperior(ValorLibre& limite, const ValorLibre& fin) {
     if (limite.EsVacio() || fin.EsVacio()) {
         return;
     }
@@ -56,7 +56,7 @@ void NormalizarSuperior(ValorLibre &limite, const ValorLibre &fin) {
     limite = signoPaso == ">" ? ValorLibre() : ValorLibre(signo + numero);
 }
 
-template <typename Funcion> void NormalizarLimitesDe(Funcion &funcion) {
+template <typename Funcion> void NormalizarLimitesDe(Funcion& funcion) {
     const int pasos = funcion.Escalones.Tamano();
     if (pasos == 0) {
         return;
@@ -67,17 +67,17 @@ template <typename Funcion> void NormalizarLimitesDe(Funcion &funcion) {
 
 } // namespace
 
-std::string SignoIntervalo(const ValorLibre &intervalo) {
+std::string SignoIntervalo(const ValorLibre& intervalo) {
     const std::string texto = intervalo.Texto();
     return texto.substr(0, LargoPrimerCaracter(texto));
 }
 
-std::string TextoNumeroIntervalo(const ValorLibre &intervalo) {
+std::string TextoNumeroIntervalo(const ValorLibre& intervalo) {
     const std::string texto = intervalo.Texto();
     return texto.substr(LargoPrimerCaracter(texto));
 }
 
-double NumeroIntervalo(const ValorLibre &intervalo) {
+double NumeroIntervalo(const ValorLibre& intervalo) {
     return ValorLibre(TextoNumeroIntervalo(intervalo)).Numero();
 }
 
@@ -88,19 +88,19 @@ Extremos ExtremosFuncion(double RMin, double RMax) {
     return {RMax, RMin};
 }
 
-LimitesReferencia LimitesConVacios(const ValorLibre &RMin, const ValorLibre &RMax) {
+LimitesReferencia LimitesConVacios(const ValorLibre& RMin, const ValorLibre& RMax) {
     if (RMin.EsVacio() || RMax.EsVacio()) {
         return {0, 100};
     }
     return {RMin.Numero(), RMax.Numero()};
 }
 
-Intervalo ValorIntervalo(const Escalon &escalon) {
+Intervalo ValorIntervalo(const Escalon& escalon) {
     return {escalon.Valor.Numero(), NumeroIntervalo(escalon.ValorInicial),
             NumeroIntervalo(escalon.ValorFinal)};
 }
 
-FuncionValor ConvertirFuncion(const FuncionOptativo &funcion) {
+FuncionValor ConvertirFuncion(const FuncionOptativo& funcion) {
     FuncionValor valor;
     valor.Nombre = funcion.Nombre;
     valor.Clave = funcion.Clave;
@@ -117,11 +117,11 @@ FuncionValor ConvertirFuncion(const FuncionOptativo &funcion) {
     return valor;
 }
 
-void NormalizarLimites(FuncionValor &funcion) {
+void NormalizarLimites(FuncionValor& funcion) {
     NormalizarLimitesDe(funcion);
 }
 
-void NormalizarLimites(FuncionOptativo &funcion) {
+void NormalizarLimites(FuncionOptativo& funcion) {
     NormalizarLimitesDe(funcion);
 }
 

@@ -19,7 +19,7 @@ FuncionValor Continua(ValorLibre RMin, ValorLibre RMax, ValorLibre C, ValorLibre
 }
 
 TEST(ValorContinuo, GoesFromZeroAtRMinToOneAtRMax) {
-    for (const auto &[RMin, RMax] : {std::pair{20.0, 100.0}, std::pair{100.0, 0.0}}) {
+    for (const auto& [RMin, RMax] : {std::pair{20.0, 100.0}, std::pair{100.0, 0.0}}) {
         const double D = std::fabs(RMax - RMin) / 2;
         EXPECT_NEAR(*ValorContinuo(RMin, RMin, RMax, D, 0.5, 3), 0, 1e-12);
         EXPECT_NEAR(*ValorContinuo(RMax, RMin, RMax, D, 0.5, 3), 1, 1e-12);
@@ -116,7 +116,7 @@ TEST(CurvaAlmacenada, NeedsAllFiveValuesARangeAndAPositiveC) {
 
     for (int vacio = 0; vacio < 5; ++vacio) {
         FuncionValor f = buena;
-        ValorLibre *campos[] = {&f.RMin, &f.RMax, &f.C, &f.K, &f.P};
+        ValorLibre* campos[] = {&f.RMin, &f.RMax, &f.C, &f.K, &f.P};
         *campos[vacio] = ValorLibre();
         EXPECT_FALSE(CurvaAlmacenada(f)) << vacio;
     }

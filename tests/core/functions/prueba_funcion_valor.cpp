@@ -9,20 +9,20 @@
 namespace vadro {
 namespace {
 
-int NumeroDeError(const std::function<void()> &accion) {
+int NumeroDeError(const std::function<void()>& accion) {
     try {
         accion();
-    } catch (const ErrorEjecucion &e) {
+    } catch (const ErrorEjecucion& e) {
         return e.Numero();
     }
     return 0;
 }
 
-Escalon Paso(const char *inicio, const char *fin, double valor) {
+Escalon Paso(const char* inicio, const char* fin, double valor) {
     return {ValorLibre(inicio), ValorLibre(fin), ValorLibre(valor)};
 }
 
-FuncionValor ConPasos(const char *xmin, const char *xmax, std::vector<Escalon> pasos) {
+FuncionValor ConPasos(const char* xmin, const char* xmax, std::vector<Escalon> pasos) {
     FuncionValor f;
     f.Tipo = FuncionEscalon;
     f.XMin = ValorLibre(xmin);
@@ -78,7 +78,7 @@ TEST(LimitesConVacios, EitherEmptyLimitReplacesBoth) {
     const auto definidos = LimitesConVacios(ValorLibre(5.0), ValorLibre(-8.0));
     EXPECT_EQ(definidos.Minimo, 5);
     EXPECT_EQ(definidos.Maximo, -8);
-    for (const auto &[minimo, maximo] :
+    for (const auto& [minimo, maximo] :
          {std::pair{ValorLibre(), ValorLibre(40.0)}, std::pair{ValorLibre(30.0), ValorLibre()},
           std::pair{ValorLibre(), ValorLibre()}}) {
         const auto limites = LimitesConVacios(minimo, maximo);
