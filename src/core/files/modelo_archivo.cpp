@@ -3,6 +3,8 @@
 #include "core/core/error_ejecucion.h"
 #include "core/core/mensajes.h"
 #include "core/files/formato.h"
+#include "core/files/lectura_seccion.h"
+#include "core/files/seccion_requerimientos.h"
 
 namespace vadro {
 
@@ -15,12 +17,18 @@ struct CampoCabecera {
 };
 
 constexpr CampoCabecera kCampos[] = {
-    {"_APL", &Modelo::Aplicacion},   {"_NOM", &Modelo::Nombre},
-    {"_DAT", &Modelo::Fecha},        {"_POR", &Modelo::Autor},
-    {"_VER", &Modelo::Version},      {"_LOC", &Modelo::Localizacion},
-    {"_REF", &Modelo::Referencia},   {"_DSC", &Modelo::Descripcion},
-    {"_FCP", &Modelo::ArchivoCompilado}, {"_EJX", &Modelo::EjeX},
-    {"_EJY", &Modelo::EjeY},         {"_EJZ", &Modelo::EjeZ},
+    {"_APL", &Modelo::Aplicacion},
+    {"_NOM", &Modelo::Nombre},
+    {"_DAT", &Modelo::Fecha},
+    {"_POR", &Modelo::Autor},
+    {"_VER", &Modelo::Version},
+    {"_LOC", &Modelo::Localizacion},
+    {"_REF", &Modelo::Referencia},
+    {"_DSC", &Modelo::Descripcion},
+    {"_FCP", &Modelo::ArchivoCompilado},
+    {"_EJX", &Modelo::EjeX},
+    {"_EJY", &Modelo::EjeY},
+    {"_EJZ", &Modelo::EjeZ},
 };
 
 std::string ClaveCabecera(const Modelo& modelo, const std::string& indice, const char* sufijo) {
@@ -52,9 +60,12 @@ void LeerCabecera(Modelo& modelo, ArchivoEntrada& archivo, const std::string& in
         LeerBooleanoArchivo(BuscarValor(archivo, ClaveCabecera(modelo, indice, "_PERM_USU_VER")));
 }
 
-void GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir, const std::string& indice) {
+void GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
+                   const std::string& indice) {
     ArchivoSalida salida;
     EscribirCabecera(modelo, salida, indice);
+    // The requirements show their own failure, and the model goes on without the rest of them.
+    GuardarRequerimientos(modelo, salida, indice);
     try {
         GuardarSeccion(ruta, salida, anadir);
     } catch (const ErrorEjecucion& error) {
@@ -65,13 +76,13 @@ void GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir, const s
 }
 
 void CargarModelo(Modelo& modelo, const std::string& ruta, const std::string& indice) {
-    ArchivoEntrada archivo = ArchivoEntrada::Abrir(ruta);
-    CargarModelo(modelo, archivo, indice);
-    archivo.BorrarTemporal();
+    ArchivoPropio archivo(ruta);
+    CargarModelo(modelo, *archivo, indice);
 }
 
 void CargarModelo(Modelo& modelo, ArchivoEntrada& archivo, const std::string& indice) {
     LeerCabecera(modelo, archivo, indice);
+    CargarRequerimientos(modelo, archivo, indice);
 }
 
 } // namespace vadro
