@@ -5,14 +5,128 @@
 #include "core/core/error_ejecucion.h"
 #include "core/files/proteccion.h"
 
+#include <algorithm>
+#include <string_view>
+
 namespace vadro {
 
 ArchivoEntrada::ArchivoEntrada(std::vector<std::string> lineasOchoBits, std::string temporal)
     : lineas_(std::move(lineasOchoBits)), temporal_(std::move(temporal)) {}
 
+namespace {
+
+bool EsAscii(std::string_view texto) {
+    unsigned char bits = 0;
+    for (const char c : texto) {
+        bits |= static_cast<unsigned char>(c);
+    }
+    return bits < 0x80;
+}
+
+bool TieneFinLinea(std::string_view texto) {
+    return std::any_of(texto.begin(), texto.end(), [](char c) { return c == '\r' || c == '\n'; });
+}
+
+// Calls `hacer` with each line of 8-bit text, split as DividirLineas splits it: carriage
+// return and line feed together end a line, and so does either alone.
+template <typename Hacer> void PorCadaLinea(std::string_view bytes, Hacer&& hacer) {
+    std::size_t inicio = 0;
+    std::size_t i = 0;
+    while (i < bytes.size()) {
+        const char c = bytes[i];
+        if (c != '\r' && c != '\n') {
+            ++i;
+            continue;
+        }
+        hacer(bytes.substr(inicio, i - inicio));
+        i += (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ? 2 : 1;
+        inicio = i;
+    }
+    if (inicio < bytes.size()) {
+        hacer(bytes.substr(inicio));
+    }
+}
+
+// The key phrase applied to a line, character by character from the start of the phrase, as
+// CodificarLinea and DecodificarLinea apply it; written out here so that a whole file is coded
+// straight into one buffer, a phrase's length at a time.
+template <typename Operacion>
+void AplicarFrase(std::string_view linea, char* destino, Operacion operacion) {
+    const std::size_t largoFrase = kFraseClave.size();
+    for (std::size_t inicio = 0; inicio < linea.size(); inicio += largoFrase) {
+        const std::size_t tramo = std::min(largoFrase, linea.size() - inicio);
+        for (std::size_t j = 0; j < tramo; ++j) {
+            const int codigo = operacion(static_cast<unsigned char>(linea[inicio + j]),
+                                         static_cast<unsigned char>(kFraseClave[j]));
+            destino[inicio + j] = static_cast<char>(static_cast<unsigned char>(codigo));
+        }
+    }
+}
+
+int Codificar(int c, int k) {
+    return c + k > 255 ? c + k - 255 : c + k;
+}
+int Decodificar(int c, int k) {
+    return c - k < 0 ? c - k + 255 : c - k;
+}
+
+// The plain lines of a file's bytes, as LineasPlanas gives them, in a single pass with no
+// intermediate copy: plain text is told by its first five characters, and in scrambled text
+// the empty lines are skipped and every other line decoded.
+std::vector<std::string> LineasDeBytes(std::string_view bytes) {
+    std::vector<std::string> lineas;
+    lineas.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1);
+    bool primera = true;
+    bool plano = false;
+    PorCadaLinea(bytes, [&](std::string_view linea) {
+        if (primera) {
+            plano = linea.substr(0, 5) == "*****";
+            primera = false;
+        }
+        if (plano) {
+            lineas.emplace_back(linea);
+        } else if (!linea.empty()) {
+            std::string decodificada(linea.size(), '\0');
+            AplicarFrase(linea, decodificada.data(), Decodificar);
+            lineas.push_back(std::move(decodificada));
+        }
+    });
+    return lineas;
+}
+
+// The bytes TextoProtegido gives for these lines: each coded line followed by an empty line.
+// Only when a coded character 10 or 13 breaks a line does the general rule have to run.
+std::string BytesProtegidos(const std::vector<std::string>& lineas) {
+    std::size_t total = 0;
+    for (const auto& linea : lineas) {
+        total += linea.size() + 4;
+    }
+    std::string bytes(total, '\0');
+    char* destino = bytes.data();
+    for (const auto& linea : lineas) {
+        AplicarFrase(linea, destino, Codificar);
+        if (TieneFinLinea(std::string_view(destino, linea.size()))) {
+            return TextoProtegido(lineas);
+        }
+        destino = std::copy_n("\r\n\r\n", 4, destino + linea.size());
+    }
+    return bytes;
+}
+
+} // namespace
+
+// The plain text still goes to the temporary file, which the reader deletes when it is done;
+// the lines are taken from memory instead of from that file, which gives the same lines unless
+// a decoded character breaks one.
 ArchivoEntrada ArchivoEntrada::Abrir(const std::string& ruta) {
-    const std::string temporal = RecuperarArchivo(ruta);
-    return ArchivoEntrada(DividirLineas(LeerArchivo(temporal)), temporal);
+    std::vector<std::string> lineas = LineasDeBytes(LeerArchivo(ruta));
+    const std::string temporal = RutaTemporal(ruta);
+    const std::string plano = UnirLineas(lineas);
+    EscribirArchivo(temporal, plano);
+    if (std::any_of(lineas.begin(), lineas.end(), TieneFinLinea)) {
+        lineas = DividirLineas(plano);
+    }
+    return ArchivoEntrada(std::move(lineas), temporal);
 }
 
 const std::string& ArchivoEntrada::LeerLinea() {
@@ -31,7 +145,7 @@ void ArchivoEntrada::BorrarTemporal() {
 
 namespace {
 
-bool Contiene(const std::string& linea, const std::string& texto) {
+bool Contiene(const std::string& linea, std::string_view texto) {
     return linea.find(texto) != std::string::npos;
 }
 
@@ -73,15 +187,19 @@ ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave) {
     if (archivo.FinArchivo()) {
         return ValorLibre();
     }
-    const std::string clave8 = AOchoBits(clave);
+    // Keys are plain ASCII nearly always, and then their 8-bit form is the same text.
+    std::string convertida;
+    std::string_view clave8 = clave;
+    if (!EsAscii(clave)) {
+        convertida = AOchoBits(clave);
+        clave8 = convertida;
+    }
     const std::string* linea = nullptr;
-    std::string primeraClave;
-    bool hayPrimeraClave = false;
+    const std::string* lineaPrimeraClave = nullptr;
     while (!archivo.FinArchivo()) {
         linea = &archivo.LeerLinea();
-        if (!hayPrimeraClave && Contiene(*linea, "=")) {
-            primeraClave = ParteClave(*linea);
-            hayPrimeraClave = true;
+        if (lineaPrimeraClave == nullptr && Contiene(*linea, "=")) {
+            lineaPrimeraClave = linea;
         }
         if (Contiene(*linea, clave8)) {
             break;
@@ -90,6 +208,8 @@ ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave) {
     if (archivo.FinArchivo()) {
         // Once more from the start, up to the line where the search began. An empty first
         // key is found in the first line, and so is a missing one.
+        const std::string primeraClave =
+            lineaPrimeraClave != nullptr ? ParteClave(*lineaPrimeraClave) : std::string();
         archivo.IrA(0);
         while (!archivo.FinArchivo()) {
             linea = &archivo.LeerLinea();
@@ -105,14 +225,22 @@ ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave) {
     return ValorLibre(DesdeOchoBits(ValorDeLinea(*linea)));
 }
 
-void ArchivoSalida::Escribir(const std::string& linea) { lineas_.push_back(AOchoBits(linea)); }
+// Text that is plain ASCII is its own 8-bit form.
+void ArchivoSalida::Escribir(const std::string& linea) {
+    lineas_.push_back(EsAscii(linea) ? linea : AOchoBits(linea));
+}
 
 void ArchivoSalida::Escribir(const std::string& clave, const std::string& valor) {
-    Escribir(clave + " = " + valor);
+    std::string linea;
+    linea.reserve(clave.size() + 3 + valor.size());
+    linea += clave;
+    linea += " = ";
+    linea += valor;
+    lineas_.push_back(EsAscii(linea) ? std::move(linea) : AOchoBits(linea));
 }
 
 void EscribirCompleto(const std::string& ruta, const ArchivoSalida& salida) {
-    EscribirArchivo(ruta, TextoProtegido(salida.Lineas()));
+    EscribirArchivo(ruta, BytesProtegidos(salida.Lineas()));
 }
 
 void AnadirSeccion(const std::string& ruta, const ArchivoSalida& salida) {
