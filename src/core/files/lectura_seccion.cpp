@@ -11,7 +11,7 @@ LecturaSeccion::LecturaSeccion(ArchivoEntrada& archivo, std::string indice)
       disponibles_(archivo.Lineas().size() + kMargenElementos) {}
 
 ValorLibre LecturaSeccion::Buscar(const std::string& clave) {
-    return BuscarValor(archivo_, indice_ + clave);
+    return indice_.empty() ? BuscarValor(archivo_, clave) : BuscarValor(archivo_, indice_ + clave);
 }
 
 void LecturaSeccion::Reservar(std::size_t elementos) {

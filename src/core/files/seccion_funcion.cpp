@@ -53,6 +53,14 @@ private:
     const char* tema_;
 };
 
+// The key of option n of the function with key K: "O<n>" and K.
+std::string ClaveOpcion(int n, const std::string& clave) {
+    std::string opcion(1, 'O');
+    opcion += std::to_string(n);
+    opcion += clave;
+    return opcion;
+}
+
 std::string PrefijoFuncion(const std::string& indice, const std::string& clave) {
     return indice + "FUN_" + clave;
 }
@@ -164,7 +172,7 @@ void EscribirOptativos(FuncionValor& f, EscritorFuncion& e, const std::string& i
         e.Linea(opt + "_NOM", [&] { return f.Optativos(n).Nombre; });
         FuncionOptativo& opcion =
             e.Ejecutar([&]() -> FuncionOptativo& { return f.Optativos(n).Funcion; });
-        opcion.Clave = "O" + std::to_string(n) + f.Clave;
+        opcion.Clave = ClaveOpcion(n, f.Clave);
         GuardarFuncionOptativo(opcion, e.Salida(), indice);
     }
 }
@@ -267,7 +275,7 @@ void LeerOptativos(FuncionValor& f, LecturaSeccion& l) {
     for (int n = 1; n <= f.Optativos.Tamano(); ++n) {
         IndicadorOptativo& opcion = f.Optativos(n);
         opcion.Nombre = l.Buscar(prefijo + "_OPT" + std::to_string(n) + "_NOM").Texto();
-        opcion.Funcion.Clave = "O" + std::to_string(n) + f.Clave;
+        opcion.Funcion.Clave = ClaveOpcion(n, f.Clave);
         LeerFuncionOptativo(opcion.Funcion, l);
     }
 }

@@ -19,6 +19,14 @@ std::string Numero(int n) {
     return std::to_string(n);
 }
 
+// A position key: the level's letter and the node's number in front of its parent's key.
+std::string ClavePosicion(char letra, int n, const std::string& padre = {}) {
+    std::string clave(1, letra);
+    clave += std::to_string(n);
+    clave += padre;
+    return clave;
+}
+
 void MostrarFalloGuardado() {
     MsgBox("Error al guardar el árbol de requerimientos.", Botones::Aceptar, Icono::Critico,
            "VADRO: Error ");
@@ -41,7 +49,7 @@ public:
         salida_.Escribir(indice_ + "REQ_NUMR", FormaValor(cuenta));
         const int requerimientos = Hijos(cuenta);
         for (int r = 1; r <= requerimientos; ++r) {
-            EscribirRequerimiento(modelo.Requerimientos(r), "R" + Numero(r), requerimientos);
+            EscribirRequerimiento(modelo.Requerimientos(r), ClavePosicion('R', r), requerimientos);
         }
     }
 
@@ -51,7 +59,7 @@ private:
         EscribirCuenta(clave, "NUMC", nodo.NumCriterios);
         const int criterios = Hijos(nodo.NumCriterios);
         for (int c = 1; c <= criterios; ++c) {
-            EscribirCriterio(nodo.Criterios(c), "C" + Numero(c) + clave, criterios);
+            EscribirCriterio(nodo.Criterios(c), ClavePosicion('C', c, clave), criterios);
         }
     }
 
@@ -63,7 +71,7 @@ private:
         const int subcriterios = Hijos(nodo.NumSubcriterios);
         for (int s = 1; s <= subcriterios; ++s) {
             NodoSubcriterio& sub = nodo.Subcriterios(s);
-            const std::string claveSub = "S" + Numero(s) + clave;
+            const std::string claveSub = ClavePosicion('S', s, clave);
             EscribirCabeza(sub, claveSub, subcriterios);
             EscribirIndicadores(sub.NumIndicadores, sub.Indicadores, claveSub);
         }
@@ -75,7 +83,7 @@ private:
         const int total = Hijos(cuenta);
         for (int i = 1; i <= total; ++i) {
             NodoIndicador& nodo = indicadores(i);
-            const std::string clave = "I" + Numero(i) + padre;
+            const std::string clave = ClavePosicion('I', i, padre);
             EscribirCabeza(nodo, clave, total);
             nodo.Funcion.Clave = clave;
             GuardarFuncionValor(nodo.Funcion, salida_, indice_);
@@ -124,7 +132,8 @@ public:
         const int requerimientos = modelo.NumRequerimientos.Cuenta();
         l_.Dimensionar(modelo.Requerimientos, requerimientos);
         for (int r = 1; r <= requerimientos; ++r) {
-            LeerRequerimiento(modelo, modelo.Requerimientos(r), "R" + Numero(r), requerimientos);
+            LeerRequerimiento(modelo, modelo.Requerimientos(r), ClavePosicion('R', r),
+                              requerimientos);
         }
     }
 
@@ -139,7 +148,7 @@ private:
         const int criterios = nodo.NumCriterios.Cuenta();
         l_.Dimensionar(nodo.Criterios, criterios);
         for (int c = 1; c <= criterios; ++c) {
-            LeerCriterio(modelo, nodo.Criterios(c), "C" + Numero(c) + clave, criterios);
+            LeerCriterio(modelo, nodo.Criterios(c), ClavePosicion('C', c, clave), criterios);
         }
     }
 
@@ -156,7 +165,7 @@ private:
         modelo.ConSubcriterios = true;
         for (int s = 1; s <= subcriterios; ++s) {
             NodoSubcriterio& sub = nodo.Subcriterios(s);
-            const std::string claveSub = "S" + Numero(s) + clave;
+            const std::string claveSub = ClavePosicion('S', s, clave);
             LeerCabeza(sub, claveSub, subcriterios);
             sub.NumIndicadores = LeerCuentaDe(claveSub, "NUMI");
             LeerIndicadores(sub.NumIndicadores, sub.Indicadores, claveSub);
@@ -172,7 +181,7 @@ private:
         l_.Dimensionar(indicadores, total);
         for (int i = 1; i <= total; ++i) {
             NodoIndicador& nodo = indicadores(i);
-            const std::string clave = "I" + Numero(i) + padre;
+            const std::string clave = ClavePosicion('I', i, padre);
             LeerCabeza(nodo, clave, total);
             nodo.Funcion.Clave = clave;
             LeerFuncionValor(nodo.Funcion, l_);

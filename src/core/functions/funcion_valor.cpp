@@ -34,9 +34,9 @@ void NormalizarInferior(ValorLibre& limite, const ValorLibre& inicio) {
     const std::string numero = TextoNumeroIntervalo(inicio);
     const std::string signoPaso = SignoIntervalo(inicio);
     if (signoPaso == "=") {
-        signo = "<";
+        signo = '<';
     } else if (signoPaso == ">") {
-        signo = "=";
+        signo = '=';
     }
     limite = signoPaso == "<" ? ValorLibre() : ValorLibre(signo + numero);
 }
@@ -51,7 +51,7 @@ void NormalizarSuperior(ValorLibre& limite, const ValorLibre& fin) {
     const std::string numero = TextoNumeroIntervalo(fin);
     const std::string signoPaso = SignoIntervalo(fin);
     if (signoPaso == "=") {
-        signo = ">";
+        signo = '>';
     }
     limite = signoPaso == ">" ? ValorLibre() : ValorLibre(signo + numero);
 }
