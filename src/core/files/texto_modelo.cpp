@@ -6,6 +6,8 @@
 #include "core/files/proteccion.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <string_view>
 
 namespace vadro {
@@ -113,13 +115,37 @@ std::string BytesProtegidos(const std::vector<std::string>& lineas) {
     return bytes;
 }
 
+// The bytes of a file read in one piece. LeerArchivo grows its buffer as it reads, which for a
+// large model touches several times the file's size in fresh memory; whenever this quick way
+// fails, LeerArchivo runs and reports the failure as it always does.
+std::string BytesDeArchivo(const std::string& ruta) {
+    const std::string normal = NormalizarRuta(ruta);
+    const std::filesystem::path camino(std::u8string(normal.begin(), normal.end()));
+    std::error_code error;
+    if (ruta.empty() || !std::filesystem::is_regular_file(camino, error)) {
+        return LeerArchivo(ruta);
+    }
+    const auto largo = std::filesystem::file_size(camino, error);
+    std::ifstream entrada(camino, std::ios::binary);
+    if (error || !entrada) {
+        return LeerArchivo(ruta);
+    }
+    std::string bytes(static_cast<std::size_t>(largo), '\0');
+    entrada.read(bytes.data(), static_cast<std::streamsize>(largo));
+    if (static_cast<std::uintmax_t>(entrada.gcount()) != largo ||
+        entrada.peek() != std::ifstream::traits_type::eof()) {
+        return LeerArchivo(ruta);
+    }
+    return bytes;
+}
+
 } // namespace
 
 // The plain text still goes to the temporary file, which the reader deletes when it is done;
 // the lines are taken from memory instead of from that file, which gives the same lines unless
 // a decoded character breaks one.
 ArchivoEntrada ArchivoEntrada::Abrir(const std::string& ruta) {
-    std::vector<std::string> lineas = LineasDeBytes(LeerArchivo(ruta));
+    std::vector<std::string> lineas = LineasDeBytes(BytesDeArchivo(ruta));
     const std::string temporal = RutaTemporal(ruta);
     const std::string plano = UnirLineas(lineas);
     EscribirArchivo(temporal, plano);

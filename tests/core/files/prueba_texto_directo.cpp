@@ -3,6 +3,7 @@
 
 #include "core/core/archivos.h"
 #include "core/core/codigo_pagina.h"
+#include "core/core/error_ejecucion.h"
 #include "core/files/proteccion.h"
 #include "core/files/texto_modelo.h"
 #include "soporte/prueba_sesion.h"
@@ -89,6 +90,21 @@ TEST_F(TextoDirecto, ADecodedLineBreakSplitsTheLineAsTheTemporaryFileDoes) {
     EXPECT_GT(lineas.size(), 2u);
     Escribir(ruta, "");
     EXPECT_TRUE(Abiertas().empty());
+}
+
+TEST_F(TextoDirecto, AFileThatCannotBeReadFailsAsItAlwaysDid) {
+    const auto error = [](const std::string& camino) {
+        try {
+            (void)ArchivoEntrada::Abrir(camino);
+        } catch (const ErrorEjecucion& e) {
+            return e.Numero();
+        }
+        return 0;
+    };
+    EXPECT_EQ(error(Ruta("no-existe.vdm")), ErrArchivoNoEncontrado);
+    EXPECT_EQ(error(""), ErrArchivoNoEncontrado);
+    std::filesystem::create_directory(Ruta("carpeta.vdm"));
+    EXPECT_EQ(error(Ruta("carpeta.vdm")), ErrAccesoRuta);
 }
 
 TEST_F(TextoDirecto, KeysOutsideAsciiAreLookedForInTheir8BitForm) {
