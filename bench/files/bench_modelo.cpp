@@ -85,8 +85,8 @@ Modelo ModeloGenerado(int indicadores) {
 class Banco {
 public:
     Banco() {
-        directorio_ = std::filesystem::temp_directory_path() /
-                      ("vadro-bench-" + std::to_string(::getpid()));
+        directorio_ =
+            std::filesystem::temp_directory_path() / ("vadro-bench-" + std::to_string(::getpid()));
         std::filesystem::create_directories(directorio_);
         SesionActual().DirectorioPrograma = directorio_.string();
     }
