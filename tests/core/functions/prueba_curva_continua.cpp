@@ -37,7 +37,9 @@ TEST(NivelReferencia, RoundedToFourDecimalsFromTheLastGoodFactor) {
         ASSERT_TRUE(curva.Preparar(37.3, 20, 100, 0.3, P));
         EXPECT_EQ(curva.Nivel(), 1.0) << P;
     }
+    const double bueno = curva.B();
     EXPECT_FALSE(curva.Preparar(60, 20, 100, 0, 3));
+    EXPECT_EQ(curva.B(), bueno) << "kept from the last good drawing";
     EXPECT_EQ(curva.Nivel(), 0) << "the old B times the new, empty bracket";
     EXPECT_FALSE(curva.Preparar(20, 20, 100, 0.5, 3));
     EXPECT_EQ(curva.Nivel(), 1) << "no distance: exactly 1";
