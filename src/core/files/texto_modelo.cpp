@@ -6,6 +6,7 @@
 #include "core/files/proteccion.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
@@ -23,10 +24,6 @@ bool EsAscii(std::string_view texto) {
         bits |= static_cast<unsigned char>(c);
     }
     return bits < 0x80;
-}
-
-bool TieneFinLinea(std::string_view texto) {
-    return std::any_of(texto.begin(), texto.end(), [](char c) { return c == '\r' || c == '\n'; });
 }
 
 // Calls `hacer` with each line of 8-bit text, split as DividirLineas splits it: carriage
@@ -51,18 +48,24 @@ template <typename Hacer> void PorCadaLinea(std::string_view bytes, Hacer&& hace
 
 // The key phrase applied to a line, character by character from the start of the phrase, as
 // CodificarLinea and DecodificarLinea apply it; written out here so that a whole file is coded
-// straight into one buffer, a phrase's length at a time.
+// straight into one buffer, a phrase's length at a time. Says whether a resulting character
+// is a line break. The phrase is copied first, so that writing can't touch it.
 template <typename Operacion>
-void AplicarFrase(std::string_view linea, char* destino, Operacion operacion) {
-    const std::size_t largoFrase = kFraseClave.size();
+bool AplicarFrase(std::string_view linea, char* destino, Operacion operacion) {
+    std::array<unsigned char, 256> frase;
+    const std::size_t largoFrase = std::min(kFraseClave.size(), frase.size());
+    std::copy_n(kFraseClave.begin(), largoFrase, frase.begin());
+    bool fin = false;
     for (std::size_t inicio = 0; inicio < linea.size(); inicio += largoFrase) {
         const std::size_t tramo = std::min(largoFrase, linea.size() - inicio);
         for (std::size_t j = 0; j < tramo; ++j) {
-            const int codigo = operacion(static_cast<unsigned char>(linea[inicio + j]),
-                                         static_cast<unsigned char>(kFraseClave[j]));
-            destino[inicio + j] = static_cast<char>(static_cast<unsigned char>(codigo));
+            const auto codigo = static_cast<unsigned char>(
+                operacion(static_cast<unsigned char>(linea[inicio + j]), frase[j]));
+            destino[inicio + j] = static_cast<char>(codigo);
+            fin |= codigo == '\r' || codigo == '\n';
         }
     }
+    return fin;
 }
 
 int Codificar(int c, int k) {
@@ -74,8 +77,9 @@ int Decodificar(int c, int k) {
 
 // The plain lines of a file's bytes, as LineasPlanas gives them, in a single pass with no
 // intermediate copy: plain text is told by its first five characters, and in scrambled text
-// the empty lines are skipped and every other line decoded.
-std::vector<std::string> LineasDeBytes(std::string_view bytes) {
+// the empty lines are skipped and every other line decoded. `partida` tells whether a decoded
+// line holds a line break.
+std::vector<std::string> LineasDeBytes(std::string_view bytes, bool& partida) {
     std::vector<std::string> lineas;
     lineas.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1);
     bool primera = true;
@@ -89,7 +93,7 @@ std::vector<std::string> LineasDeBytes(std::string_view bytes) {
             lineas.emplace_back(linea);
         } else if (!linea.empty()) {
             std::string decodificada(linea.size(), '\0');
-            AplicarFrase(linea, decodificada.data(), Decodificar);
+            partida |= AplicarFrase(linea, decodificada.data(), Decodificar);
             lineas.push_back(std::move(decodificada));
         }
     });
@@ -106,8 +110,7 @@ std::string BytesProtegidos(const std::vector<std::string>& lineas) {
     std::string bytes(total, '\0');
     char* destino = bytes.data();
     for (const auto& linea : lineas) {
-        AplicarFrase(linea, destino, Codificar);
-        if (TieneFinLinea(std::string_view(destino, linea.size()))) {
+        if (AplicarFrase(linea, destino, Codificar)) {
             return TextoProtegido(lineas);
         }
         destino = std::copy_n("\r\n\r\n", 4, destino + linea.size());
@@ -145,11 +148,12 @@ std::string BytesDeArchivo(const std::string& ruta) {
 // the lines are taken from memory instead of from that file, which gives the same lines unless
 // a decoded character breaks one.
 ArchivoEntrada ArchivoEntrada::Abrir(const std::string& ruta) {
-    std::vector<std::string> lineas = LineasDeBytes(BytesDeArchivo(ruta));
+    bool partida = false;
+    std::vector<std::string> lineas = LineasDeBytes(BytesDeArchivo(ruta), partida);
     const std::string temporal = RutaTemporal(ruta);
     const std::string plano = UnirLineas(lineas);
     EscribirArchivo(temporal, plano);
-    if (std::any_of(lineas.begin(), lineas.end(), TieneFinLinea)) {
+    if (partida) {
         lineas = DividirLineas(plano);
     }
     return ArchivoEntrada(std::move(lineas), temporal);
