@@ -34,6 +34,8 @@ std::string ValorLibre::Texto() const {
     return std::get<std::string>(valor_);
 }
 
+bool HayElementos(const ValorLibre& cuenta) { return !cuenta.EsVacio() && cuenta.Numero() > 0; }
+
 int ValorLibre::Cuenta() const {
     return EsVacio() ? 0 : AEntero16(*this);
 }

@@ -39,6 +39,9 @@ private:
     std::variant<std::string, double> valor_;
 };
 
+// Whether a count holds anything: neither the empty text nor 0 or less.
+bool HayElementos(const ValorLibre& cuenta);
+
 // Reads a text as a number the way the system's conversions do: blanks around it, an
 // optional sign, digits with one decimal separator ("." or ","), an optional exponent
 // introduced by E or D. Anything else gives no number.

@@ -4,6 +4,8 @@
 #include "core/core/mensajes.h"
 #include "core/files/componentes_etapas.h"
 #include "core/files/formato.h"
+#include "core/files/lectura_seccion.h"
+#include "core/files/seccion_requerimientos.h"
 
 namespace vadro {
 
@@ -63,6 +65,8 @@ bool GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
                    const std::string& indice) {
     ArchivoSalida salida;
     EscribirCabecera(modelo, salida, indice);
+    // The requirements show their own failure, and the model goes on without the rest of them.
+    GuardarRequerimientos(modelo, salida, indice);
     // The components and stages writers have no trap: their failures go up to the caller.
     GuardarComponentes(modelo, salida, indice);
     GuardarEtapas(modelo, salida, indice);
@@ -77,13 +81,13 @@ bool GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
 }
 
 void CargarModelo(Modelo& modelo, const std::string& ruta, const std::string& indice) {
-    ArchivoEntrada archivo = ArchivoEntrada::Abrir(ruta);
-    CargarModelo(modelo, archivo, indice);
-    archivo.BorrarTemporal();
+    ArchivoPropio archivo(ruta);
+    CargarModelo(modelo, *archivo, indice);
 }
 
 void CargarModelo(Modelo& modelo, ArchivoEntrada& archivo, const std::string& indice) {
     LeerCabecera(modelo, archivo, indice);
+    CargarRequerimientos(modelo, archivo, indice);
     CargarComponentes(modelo, archivo, indice);
     CargarEtapas(modelo, archivo, indice);
 }

@@ -22,10 +22,6 @@ std::string TextoPosicion(const std::string& posicion) {
     return "Posición: " + minusculas;
 }
 
-bool HayElementos(const ValorLibre& cuenta) {
-    return !cuenta.EsVacio() && cuenta.Cuenta() > 0;
-}
-
 bool PreguntarCompilarAlFinal(const Modelo& modelo) {
     const std::string inicio = "Ya ha completado el diseño del modelo.\n\r";
     if (modelo.Compilado) {

@@ -16,8 +16,6 @@ inline constexpr const char* kPosicionInforme = "Informe";
 // What the status bar shows for a position: "Posición: " and the position in lower case.
 std::string TextoPosicion(const std::string& posicion);
 
-// Whether a count of the model stands above zero; the empty text counts as none.
-bool HayElementos(const ValorLibre& cuenta);
 
 // The end of the line at "Informe": the messages, and whether the user asked to compile.
 // A compiled model only hears what to do next; otherwise the user is asked.

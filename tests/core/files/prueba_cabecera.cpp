@@ -30,7 +30,8 @@ protected:
         m.EjeY = "Requerimientos";
         m.EjeZ = "Componentes";
         m.PermisoUsuarioVer = true;
-        m.NumComponentes = 0; // an empty count is written as 0, and reads back so
+        m.NumRequerimientos = 0; // an empty count is written as 0, and reads back so
+        m.NumComponentes = 0;
         m.NumEtapas = 0;
         return m;
     }

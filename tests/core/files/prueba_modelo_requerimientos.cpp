@@ -1,0 +1,151 @@
+#include "core/core/archivos.h"
+#include "core/files/modelo_archivo.h"
+#include "core/files/proteccion.h"
+#include "funciones_prueba.h"
+#include "soporte/prueba_sesion.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace vadro {
+namespace {
+
+using namespace pruebas;
+using Lineas = std::vector<std::string>;
+
+template <typename Nodo> Nodo Cabeza(const std::string& clave, ValorLibre peso, int hermanos) {
+    Nodo nodo;
+    nodo.Clave = clave;
+    nodo.Nombre = "Nodo " + clave;
+    nodo.Peso = std::move(peso);
+    nodo.Saaty.Redimensionar(hermanos);
+    nodo.Saaty(1) = 0.25;
+    return nodo;
+}
+
+NodoIndicador Indicador(const std::string& clave, ValorLibre peso, FuncionValor funcion) {
+    auto nodo = Cabeza<NodoIndicador>(clave, std::move(peso), 2);
+    nodo.Funcion = std::move(funcion);
+    nodo.Funcion.Clave = clave;
+    return nodo;
+}
+
+// Every kind of function, direct indicators beside a subcriterion, weights defined, zero and
+// undefined, a directly weighted set and a Calculo of 3; keys as a load rebuilds them.
+Modelo ModeloCompleto() {
+    Modelo m;
+    m.NumRequerimientos = 1;
+    m.Requerimientos.Redimensionar(1);
+    NodoRequerimiento& r = m.Requerimientos(1) = Cabeza<NodoRequerimiento>("R1", 100.0, 1);
+    r.Calculo = 3;
+    r.NumCriterios = 1;
+    r.Criterios.Redimensionar(1);
+    NodoCriterio& c = r.Criterios(1) = Cabeza<NodoCriterio>("C1R1", {}, 1);
+    c.Calculo = CalculoDirecto;
+    c.Directo = 0.0;
+    c.NumIndicadores = 2;
+    c.Indicadores.Redimensionar(2);
+    c.Indicadores(1) = Indicador("I1C1R1", 50.5, Continua());
+    c.Indicadores(2) = Indicador("I2C1R1", 0.0, DeEscalones<FuncionValor>());
+    c.NumSubcriterios = 1;
+    c.Subcriterios.Redimensionar(1);
+    NodoSubcriterio& s = c.Subcriterios(1) = Cabeza<NodoSubcriterio>("S1C1R1", 1.0, 1);
+    s.NumIndicadores = 2;
+    s.Indicadores.Redimensionar(2);
+    s.Indicadores(1) = Indicador("I1S1C1R1", {}, DePuntuacion());
+    s.Indicadores(2) = Indicador("I2S1C1R1", 12.25, DeOptativos("I2S1C1R1"));
+    return m;
+}
+
+class ModeloConRequerimientos : public PruebaSesion {
+protected:
+    std::string ruta = Ruta("planta.vdm");
+    Lineas LineasDelArchivo() { return LineasPlanas(Contenido(ruta)); }
+};
+
+TEST_F(ModeloConRequerimientos, AModelRoundTripsAndASecondSaveGivesTheSameText) {
+    Modelo m = ModeloCompleto();
+    m.Modificado = true;
+    GuardarModelo(m, ruta, false);
+    EXPECT_FALSE(m.Modificado);
+    const Lineas lineas = LineasDelArchivo();
+    EXPECT_EQ(lineas[14], "*****REQUERIMIENTOS*****") << "right behind the header";
+    EXPECT_EQ(lineas[21], "REQ_R1_CAL =  0 ");
+    Modelo leido;
+    CargarModelo(leido, ruta);
+    Modelo esperado = ModeloCompleto();
+    esperado.Requerimientos(1).Calculo = CalculoSaaty;
+    esperado.ConSubcriterios = true;
+    esperado.NumComponentes = 0; // empty counts are written as 0 and read back so
+    esperado.NumEtapas = 0;
+    EXPECT_EQ(leido, esperado);
+    GuardarModelo(leido, ruta, false);
+    EXPECT_EQ(LineasDelArchivo(), lineas);
+    // 249.0000001 millionths are written as 249; read back, 249 / 1000000 times 1000000 falls
+    // just under 249 and the next save cuts it to 248.
+    leido.Requerimientos(1).Peso = 0.0002490000001;
+    GuardarModelo(leido, ruta, false);
+    CargarModelo(leido, ruta);
+    GuardarModelo(leido, ruta, false);
+    EXPECT_EQ(LineasDelArchivo()[18], "REQ_R1_PSO =  248 ");
+}
+
+TEST_F(ModeloConRequerimientos, AHandMadeFileLoadsAsTheFormatSays) {
+    Escribir(
+        ruta,
+        UnirLineas({"*****MODELO*****", "REQ_NUMR =  1 ", "REQ_R1_CAL =  3 ", "REQ_R1_NUMC =  1 ",
+                    "REQ_C1R1_NUMI =  2 ", "FUN_I1C1R1_IND = I1C1R1", "FUN_I1C1R1_XMN =  0 ",
+                    "FUN_I1C1R1_XMX =  90000000 ", "FUN_I2C1R1_IND = I2C1R1",
+                    "FUN_I2C1R1_XMN =  0 ", "FUN_I2C1R1_TIP = fEscalon", "FUN_I2C1R1_ESC_NUM =  1 ",
+                    "FUN_I2C1R1_ESC1_VINI =  25000000 ", "FUN_I2C1R1_ESC1_VFIN =  40000000 ",
+                    "FUN_I2C1R1_ESC1_SFIN = igual", "OTRA = sin leer"}));
+    Modelo m;
+    m.ConSubcriterios = true;
+    CargarModelo(m, ruta);
+    EXPECT_FALSE(m.ConSubcriterios);
+    EXPECT_EQ(m.Requerimientos(1).Calculo, 3);
+    const NodoCriterio& c = m.Requerimientos(1).Criterios(1);
+    EXPECT_TRUE(c.NumSubcriterios.EsVacio()) << "a missing count is the empty text";
+    EXPECT_EQ(c.Indicadores(2).Saaty.Tamano(), 2);
+    EXPECT_EQ(c.Indicadores(1).Funcion.XMin, ValorLibre("<0")) << "no sign line: open limits";
+    EXPECT_EQ(c.Indicadores(1).Funcion.XMax, ValorLibre(">90"));
+    const FuncionValor& escalon = c.Indicadores(2).Funcion;
+    EXPECT_EQ(escalon.Escalones(1).ValorInicial, ValorLibre("25")) << "a step's bare number";
+    EXPECT_EQ(escalon.Escalones(1).ValorFinal, ValorLibre("=40"));
+    EXPECT_EQ(escalon.XMin, ValorLibre("<5")) << "its first digit taken for the symbol";
+    GuardarModelo(m, ruta, false);
+    CargarModelo(m, ruta);
+    EXPECT_EQ(m.Requerimientos(1).Calculo, CalculoSaaty) << "the next save writes 0";
+}
+
+TEST_F(ModeloConRequerimientos, ARequirementsFailureStillSavesTheModel) {
+    Modelo m = ModeloCompleto();
+    m.Modificado = true;
+    m.Requerimientos(1).Criterios(1).Saaty.Borrar();
+    mensajes.Esperar("VADRO: Error ", "Error al guardar el árbol de requerimientos.");
+    GuardarModelo(m, ruta, false);
+    EXPECT_FALSE(m.Modificado);
+    const Lineas lineas = LineasDelArchivo();
+    const auto componentes = std::find(lineas.begin(), lineas.end(), "*****COMPONENTES*****");
+    ASSERT_NE(componentes, lineas.end()) << "the sections after the requirements are written";
+    EXPECT_EQ(*(componentes - 1), "REQ_C1R1_PSO = ") << "the requirements stop where they failed";
+}
+
+TEST_F(ModeloConRequerimientos, TwoModelsShareAFileUnderTheirPrefixes) {
+    Modelo a = ModeloCompleto();
+    Modelo b = ModeloCompleto();
+    b.Requerimientos(1).Criterios(1).Indicadores(1).Funcion.K = 0.75;
+    GuardarModelo(a, ruta, true, "A");
+    GuardarModelo(b, ruta, true, "B");
+    ArchivoEntrada archivo(DividirLineas(Contenido(ruta)));
+    Modelo leidoA;
+    Modelo leidoB;
+    CargarModelo(leidoA, archivo, "A");
+    CargarModelo(leidoB, archivo, "B");
+    EXPECT_EQ(leidoA.Requerimientos(1).Criterios(1).Indicadores(1).Funcion.K, ValorLibre(0.5));
+    EXPECT_EQ(leidoB.Requerimientos(1).Criterios(1), b.Requerimientos(1).Criterios(1));
+}
+
+} // namespace
+} // namespace vadro

@@ -1,0 +1,81 @@
+// The text layer codes whole files and reads their lines in one pass. Whatever the bytes, the
+// result must be what line-by-line scrambling and the temporary plain text give.
+
+#include "core/core/archivos.h"
+#include "core/core/codigo_pagina.h"
+#include "core/core/error_ejecucion.h"
+#include "core/files/proteccion.h"
+#include "core/files/texto_modelo.h"
+#include "soporte/prueba_sesion.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+
+namespace vadro {
+namespace {
+
+using Lineas = std::vector<std::string>;
+
+// Random 8-bit lines, rich in the codes that code or decode to a line break ("\xA0" and "y"
+// at the first place of the key phrase) and in line breaks themselves.
+Lineas LineasAlAzar(unsigned semilla) {
+    std::mt19937 azar(semilla);
+    const std::string especiales = "\xA0y\r\n=*";
+    Lineas lineas(30);
+    for (auto& linea : lineas) {
+        linea.resize(azar() % 60);
+        for (char& c : linea) {
+            c = static_cast<char>(azar() % 4 == 0 ? especiales[azar() % especiales.size()]
+                                                  : 1 + azar() % 255);
+        }
+    }
+    return lineas;
+}
+
+class TextoDirecto : public pruebas::PruebaSesion {
+protected:
+    std::string ruta = Ruta("texto.vdm");
+
+    // Checks the lines against the temporary file they come from, and its deletion.
+    void Comprobar(unsigned semilla) {
+        ArchivoEntrada archivo = ArchivoEntrada::Abrir(ruta);
+        EXPECT_EQ(archivo.Lineas(), DividirLineas(Contenido(Ruta("texto.$$$")))) << semilla;
+        EXPECT_EQ(archivo.Lineas(), DividirLineas(UnirLineas(LineasPlanas(Contenido(ruta)))));
+        archivo.BorrarTemporal();
+        EXPECT_FALSE(std::filesystem::exists(Ruta("texto.$$$")));
+    }
+};
+
+TEST_F(TextoDirecto, WritingAndOpeningAgreeWithTheLineByLineRules) {
+    for (unsigned semilla = 1; semilla <= 40; ++semilla) {
+        const Lineas lineas = LineasAlAzar(semilla);
+        ArchivoSalida salida;
+        for (const auto& linea : lineas) {
+            salida.Escribir(DesdeOchoBits(linea));
+        }
+        EscribirCompleto(ruta, salida);
+        ASSERT_EQ(Contenido(ruta), TextoProtegido(lineas)) << semilla;
+        Escribir(ruta, UnirLineas(lineas)); // random bytes read as scrambled text
+        Comprobar(semilla);
+        Escribir(ruta, "*****\r\n" + UnirLineas(lineas)); // and as plain text
+        Comprobar(semilla);
+    }
+}
+
+TEST_F(TextoDirecto, FailuresAndKeysBehaveAsBefore) {
+    EXPECT_THROW((void)ArchivoEntrada::Abrir(Ruta("no-existe.vdm")), ErrorEjecucion);
+    std::filesystem::create_directory(Ruta("carpeta.vdm"));
+    try {
+        (void)ArchivoEntrada::Abrir(Ruta("carpeta.vdm"));
+        ADD_FAILURE() << "a directory is no file";
+    } catch (const ErrorEjecucion& e) {
+        EXPECT_EQ(e.Numero(), ErrAccesoRuta);
+    }
+    ArchivoEntrada archivo({"*****", "PA\xD1O = tela", "FIN = "});
+    EXPECT_EQ(BuscarValor(archivo, "PAÑO").Texto(), "tela") << "keys are looked for in 8 bits";
+}
+
+} // namespace
+} // namespace vadro
