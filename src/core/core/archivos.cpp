@@ -3,6 +3,7 @@
 #include "core/core/error_ejecucion.h"
 #include "core/core/sesion.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -88,6 +89,20 @@ std::string LeerArchivo(const std::string& ruta) {
     if (!entrada) {
         throw ErrorEjecucion(ErrAccesoRuta);
     }
+    // Read in one piece at the size the file has: growing a buffer while reading touches
+    // several times a large model's size in fresh memory.
+    const auto largo = fs::file_size(camino, ec);
+    if (!ec) {
+        std::string bytes(static_cast<std::size_t>(largo), '\0');
+        entrada.read(bytes.data(), static_cast<std::streamsize>(largo));
+        if (static_cast<std::uintmax_t>(entrada.gcount()) == largo &&
+            entrada.peek() == std::ifstream::traits_type::eof()) {
+            return bytes;
+        }
+        entrada.clear();
+        entrada.seekg(0);
+    }
+    // The size is unknown or changed while reading: read to the end.
     std::string bytes((std::istreambuf_iterator<char>(entrada)), std::istreambuf_iterator<char>());
     if (entrada.bad()) {
         throw ErrorEjecucion(ErrEntradaSalida);
@@ -156,23 +171,10 @@ void BorrarArchivo(const std::string& ruta) {
     fs::remove(Ruta(ruta), ec);
 }
 
-std::vector<std::string> DividirLineas(const std::string& bytes) {
+std::vector<std::string> DividirLineas(std::string_view bytes) {
     std::vector<std::string> lineas;
-    std::size_t inicio = 0;
-    std::size_t i = 0;
-    while (i < bytes.size()) {
-        const char c = bytes[i];
-        if (c != '\r' && c != '\n') {
-            ++i;
-            continue;
-        }
-        lineas.emplace_back(bytes, inicio, i - inicio);
-        i += (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ? 2 : 1;
-        inicio = i;
-    }
-    if (inicio < bytes.size()) {
-        lineas.emplace_back(bytes, inicio);
-    }
+    lineas.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1);
+    PorCadaLinea(bytes, [&lineas](std::string_view linea) { lineas.emplace_back(linea); });
     return lineas;
 }
 

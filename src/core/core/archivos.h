@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vadro {
@@ -25,9 +26,28 @@ void AnadirArchivo(const std::string& ruta, const std::string& bytes);
 // Deletes a file; a file that is not there is no failure.
 void BorrarArchivo(const std::string& ruta);
 
-// Splits 8-bit text into lines: carriage return and line feed together end a line, and so
-// does either of them alone. A last line without an end still counts.
-std::vector<std::string> DividirLineas(const std::string& bytes);
+// Calls `hacer` with each line of 8-bit text: carriage return and line feed together end a
+// line, and so does either of them alone. A last line without an end still counts.
+template <typename Hacer> void PorCadaLinea(std::string_view bytes, Hacer&& hacer) {
+    std::size_t inicio = 0;
+    std::size_t i = 0;
+    while (i < bytes.size()) {
+        const char c = bytes[i];
+        if (c != '\r' && c != '\n') {
+            ++i;
+            continue;
+        }
+        hacer(bytes.substr(inicio, i - inicio));
+        i += (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ? 2 : 1;
+        inicio = i;
+    }
+    if (inicio < bytes.size()) {
+        hacer(bytes.substr(inicio));
+    }
+}
+
+// Splits 8-bit text into lines, as PorCadaLinea does.
+std::vector<std::string> DividirLineas(std::string_view bytes);
 
 // Joins lines, each ended by carriage return and line feed.
 std::string UnirLineas(const std::vector<std::string>& lineas);

@@ -3,48 +3,87 @@
 #include "core/core/archivos.h"
 #include "core/core/sesion.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <string_view>
 
 namespace vadro {
 
 namespace {
 
-template <typename Operacion> std::string AplicarClave(const std::string& linea, Operacion op) {
-    std::string resultado(linea.size(), '\0');
-    std::size_t p = 0;
-    for (std::size_t i = 0; i < linea.size(); ++i) {
-        const int c = static_cast<unsigned char>(linea[i]);
-        const int k = static_cast<unsigned char>(kFraseClave[p]);
-        resultado[i] = static_cast<char>(static_cast<unsigned char>(op(c, k)));
-        p = (p + 1) % kFraseClave.size();
+// The key phrase applied to a line from the start of the phrase, a phrase's length at a time,
+// straight into the destination. Says whether a resulting character is a line break.
+template <typename Operacion>
+bool AplicarFrase(std::string_view linea, char* destino, Operacion operacion) {
+    const std::size_t largoFrase = kFraseClave.size();
+    bool salto = false;
+    for (std::size_t inicio = 0; inicio < linea.size(); inicio += largoFrase) {
+        const std::size_t tramo = std::min(largoFrase, linea.size() - inicio);
+        for (std::size_t j = 0; j < tramo; ++j) {
+            const int c = static_cast<unsigned char>(linea[inicio + j]);
+            const int k = static_cast<unsigned char>(kFraseClave[j]);
+            const auto codigo = static_cast<unsigned char>(operacion(c, k));
+            destino[inicio + j] = static_cast<char>(codigo);
+            salto |= codigo == '\r' || codigo == '\n';
+        }
     }
+    return salto;
+}
+
+// Code 255 plus a key code comes back to the key code: 255 is subtracted, not taken modulo.
+int Codificar(int c, int k) {
+    return c + k > 255 ? c + k - 255 : c + k;
+}
+int Decodificar(int c, int k) {
+    return c - k < 0 ? c - k + 255 : c - k;
+}
+
+template <typename Operacion> std::string Aplicada(const std::string& linea, Operacion operacion) {
+    std::string resultado(linea.size(), '\0');
+    AplicarFrase(linea, resultado.data(), operacion);
     return resultado;
 }
 
-bool EsTextoPlano(const std::vector<std::string>& lineas) {
-    return !lineas.empty() && lineas.front().rfind("*****", 0) == 0;
+// The general rule: the coded lines are written, read back as lines (so that a coded line
+// break splits its line) and each is followed by an empty line.
+std::string ProtegidoPorLineas(const std::vector<std::string>& lineasPlanas) {
+    std::vector<std::string> codificadas;
+    codificadas.reserve(lineasPlanas.size());
+    for (const auto& linea : lineasPlanas) {
+        codificadas.push_back(Aplicada(linea, Codificar));
+    }
+    std::string bytes;
+    PorCadaLinea(UnirLineas(codificadas), [&bytes](std::string_view linea) {
+        bytes += linea;
+        bytes += "\r\n\r\n";
+    });
+    return bytes;
 }
 
 } // namespace
 
 std::string CodificarLinea(const std::string& linea) {
-    return AplicarClave(linea, [](int c, int k) { return c + k > 255 ? c + k - 255 : c + k; });
+    return Aplicada(linea, Codificar);
 }
 
 std::string DecodificarLinea(const std::string& linea) {
-    return AplicarClave(linea, [](int c, int k) { return c - k < 0 ? c - k + 255 : c - k; });
+    return Aplicada(linea, Decodificar);
 }
 
+// Coded straight into one buffer; only when a coded character breaks a line does the general
+// rule have to run.
 std::string TextoProtegido(const std::vector<std::string>& lineasPlanas) {
-    std::vector<std::string> codificadas;
-    codificadas.reserve(lineasPlanas.size());
+    std::size_t total = 0;
     for (const auto& linea : lineasPlanas) {
-        codificadas.push_back(CodificarLinea(linea));
+        total += linea.size() + 4;
     }
-    std::string bytes;
-    for (const auto& linea : DividirLineas(UnirLineas(codificadas))) {
-        bytes += linea;
-        bytes += "\r\n\r\n";
+    std::string bytes(total, '\0');
+    char* destino = bytes.data();
+    for (const auto& linea : lineasPlanas) {
+        if (AplicarFrase(linea, destino, Codificar)) {
+            return ProtegidoPorLineas(lineasPlanas);
+        }
+        destino = std::copy_n("\r\n\r\n", 4, destino + linea.size());
     }
     return bytes;
 }
@@ -63,19 +102,27 @@ std::string RutaTemporal(const std::string& ruta) {
                     std::string(base.begin(), base.end()) + ".$$$");
 }
 
-std::vector<std::string> LineasPlanas(const std::string& bytes) {
-    std::vector<std::string> lineas = DividirLineas(bytes);
-    if (lineas.empty() || EsTextoPlano(lineas)) {
-        return lineas;
-    }
-    std::vector<std::string> planas;
-    planas.reserve(lineas.size() / 2 + 1);
-    for (const auto& linea : lineas) {
-        if (!linea.empty()) {
-            planas.push_back(DecodificarLinea(linea));
+std::vector<std::string> LineasPlanas(std::string_view bytes) {
+    std::vector<std::string> lineas;
+    lineas.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1);
+    bool primera = true;
+    bool plano = false;
+    bool partida = false;
+    PorCadaLinea(bytes, [&](std::string_view linea) {
+        if (primera) {
+            plano = linea.substr(0, 5) == "*****";
+            primera = false;
         }
-    }
-    return planas;
+        if (plano) {
+            lineas.emplace_back(linea);
+        } else if (!linea.empty()) {
+            std::string decodificada(linea.size(), '\0');
+            partida |= AplicarFrase(linea, decodificada.data(), Decodificar);
+            lineas.push_back(std::move(decodificada));
+        }
+    });
+    // A decoded line break splits its line, as it does when the plain text is read back.
+    return partida ? DividirLineas(UnirLineas(lineas)) : lineas;
 }
 
 std::string RecuperarArchivo(const std::string& ruta) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vadro {
@@ -33,6 +34,6 @@ std::string RutaTemporal(const std::string& ruta);
 std::string RecuperarArchivo(const std::string& ruta);
 
 // The plain lines of a file, scrambled or not, without a temporary file.
-std::vector<std::string> LineasPlanas(const std::string& bytes);
+std::vector<std::string> LineasPlanas(std::string_view bytes);
 
 } // namespace vadro

@@ -44,136 +44,14 @@ bool EsAscii(std::string_view texto) {
     return bits < 0x80;
 }
 
-// Calls `hacer` with each line of 8-bit text, split as DividirLineas splits it: carriage
-// return and line feed together end a line, and so does either alone.
-template <typename Hacer> void PorCadaLinea(std::string_view bytes, Hacer&& hacer) {
-    std::size_t inicio = 0;
-    std::size_t i = 0;
-    while (i < bytes.size()) {
-        const char c = bytes[i];
-        if (c != '\r' && c != '\n') {
-            ++i;
-            continue;
-        }
-        hacer(bytes.substr(inicio, i - inicio));
-        i += (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ? 2 : 1;
-        inicio = i;
-    }
-    if (inicio < bytes.size()) {
-        hacer(bytes.substr(inicio));
-    }
-}
-
-// The key phrase applied to a line, character by character from the start of the phrase, as
-// CodificarLinea and DecodificarLinea apply it; written out here so that a whole file is coded
-// straight into one buffer, a phrase's length at a time. Says whether a resulting character
-// is a line break. The phrase is copied first, so that writing can't touch it.
-template <typename Operacion>
-bool AplicarFrase(std::string_view linea, char* destino, Operacion operacion) {
-    std::array<unsigned char, 256> frase;
-    const std::size_t largoFrase = std::min(kFraseClave.size(), frase.size());
-    std::copy_n(kFraseClave.begin(), largoFrase, frase.begin());
-    bool fin = false;
-    for (std::size_t inicio = 0; inicio < linea.size(); inicio += largoFrase) {
-        const std::size_t tramo = std::min(largoFrase, linea.size() - inicio);
-        for (std::size_t j = 0; j < tramo; ++j) {
-            const auto codigo = static_cast<unsigned char>(
-                operacion(static_cast<unsigned char>(linea[inicio + j]), frase[j]));
-            destino[inicio + j] = static_cast<char>(codigo);
-            fin |= codigo == '\r' || codigo == '\n';
-        }
-    }
-    return fin;
-}
-
-int Codificar(int c, int k) {
-    return c + k > 255 ? c + k - 255 : c + k;
-}
-int Decodificar(int c, int k) {
-    return c - k < 0 ? c - k + 255 : c - k;
-}
-
-// The plain lines of a file's bytes, as LineasPlanas gives them, in a single pass with no
-// intermediate copy: plain text is told by its first five characters, and in scrambled text
-// the empty lines are skipped and every other line decoded. `partida` tells whether a decoded
-// line holds a line break.
-std::vector<std::string> LineasDeBytes(std::string_view bytes, bool& partida) {
-    std::vector<std::string> lineas;
-    lineas.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1);
-    bool primera = true;
-    bool plano = false;
-    PorCadaLinea(bytes, [&](std::string_view linea) {
-        if (primera) {
-            plano = linea.substr(0, 5) == "*****";
-            primera = false;
-        }
-        if (plano) {
-            lineas.emplace_back(linea);
-        } else if (!linea.empty()) {
-            std::string decodificada(linea.size(), '\0');
-            partida |= AplicarFrase(linea, decodificada.data(), Decodificar);
-            lineas.push_back(std::move(decodificada));
-        }
-    });
-    return lineas;
-}
-
-// The bytes TextoProtegido gives for these lines: each coded line followed by an empty line.
-// Only when a coded character 10 or 13 breaks a line does the general rule have to run.
-std::string BytesProtegidos(const std::vector<std::string>& lineas) {
-    std::size_t total = 0;
-    for (const auto& linea : lineas) {
-        total += linea.size() + 4;
-    }
-    std::string bytes(total, '\0');
-    char* destino = bytes.data();
-    for (const auto& linea : lineas) {
-        if (AplicarFrase(linea, destino, Codificar)) {
-            return TextoProtegido(lineas);
-        }
-        destino = std::copy_n("\r\n\r\n", 4, destino + linea.size());
-    }
-    return bytes;
-}
-
-// The bytes of a file read in one piece. LeerArchivo grows its buffer as it reads, which for a
-// large model touches several times the file's size in fresh memory; whenever this quick way
-// fails, LeerArchivo runs and reports the failure as it always does.
-std::string BytesDeArchivo(const std::string& ruta) {
-    const std::string normal = NormalizarRuta(ruta);
-    const std::filesystem::path camino(std::u8string(normal.begin(), normal.end()));
-    std::error_code error;
-    if (ruta.empty() || !std::filesystem::is_regular_file(camino, error)) {
-        return LeerArchivo(ruta);
-    }
-    const auto largo = std::filesystem::file_size(camino, error);
-    std::ifstream entrada(camino, std::ios::binary);
-    if (error || !entrada) {
-        return LeerArchivo(ruta);
-    }
-    std::string bytes(static_cast<std::size_t>(largo), '\0');
-    entrada.read(bytes.data(), static_cast<std::streamsize>(largo));
-    if (static_cast<std::uintmax_t>(entrada.gcount()) != largo ||
-        entrada.peek() != std::ifstream::traits_type::eof()) {
-        return LeerArchivo(ruta);
-    }
-    return bytes;
-}
-
 } // namespace
 
-// The plain text still goes to the temporary file, which the reader deletes when it is done;
-// the lines are taken from memory instead of from that file, which gives the same lines unless
-// a decoded character breaks one.
+// As RecuperarArchivo, the plain text goes to the temporary file, which the reader deletes
+// when it is done; the lines are kept from memory rather than read back from it.
 ArchivoEntrada ArchivoEntrada::Abrir(const std::string& ruta) {
-    bool partida = false;
-    std::vector<std::string> lineas = LineasDeBytes(BytesDeArchivo(ruta), partida);
+    std::vector<std::string> lineas = LineasPlanas(LeerArchivo(ruta));
     const std::string temporal = RutaTemporal(ruta);
-    const std::string plano = UnirLineas(lineas);
-    EscribirArchivo(temporal, plano);
-    if (partida) {
-        lineas = DividirLineas(plano);
-    }
+    EscribirArchivo(temporal, UnirLineas(lineas));
     return ArchivoEntrada(std::move(lineas), temporal);
 }
 
@@ -292,7 +170,7 @@ void ArchivoSalida::Escribir(const std::string& clave, const std::string& valor)
 }
 
 void EscribirCompleto(const std::string& ruta, const ArchivoSalida& salida) {
-    EscribirArchivo(ruta, BytesProtegidos(salida.Lineas()));
+    EscribirArchivo(ruta, TextoProtegido(salida.Lineas()));
 }
 
 void AnadirSeccion(const std::string& ruta, const ArchivoSalida& salida) {
