@@ -6,6 +6,8 @@
 #include "core/core/dialogos.h"
 #include "core/core/error_ejecucion.h"
 #include "core/files/componentes_etapas.h"
+#include "core/files/seccion_funcion.h"
+#include "core/files/seccion_requerimientos.h"
 
 #include <filesystem>
 #include <optional>
@@ -79,6 +81,17 @@ bool ExportarPlantilla(Sesion& sesion, const TipoPlantilla& tipo,
     return true;
 }
 
+bool ImportarRequerimientos(Modelo& modelo) {
+    return ImportarPlantilla(SesionActual(), kPlantillaRequerimientos,
+                             [&](const std::string& ruta) { CargarRequerimientos(modelo, ruta); });
+}
+
+bool ExportarRequerimientos(Modelo& modelo) {
+    return ExportarPlantilla(
+        SesionActual(), kPlantillaRequerimientos,
+        [&](const std::string& ruta) { GuardarRequerimientos(modelo, ruta, false); });
+}
+
 bool ImportarComponentes(Modelo& modelo) {
     return ImportarPlantilla(SesionActual(), kPlantillaComponentes,
                              [&](const std::string& ruta) { CargarComponentes(modelo, ruta); });
@@ -98,6 +111,22 @@ bool ImportarEtapas(Modelo& modelo) {
 bool ExportarEtapas(const Modelo& modelo) {
     return ExportarPlantilla(SesionActual(), kPlantillaEtapas,
                              [&](const std::string& ruta) { GuardarEtapas(modelo, ruta, false); });
+}
+
+bool ImportarFuncionValor(FuncionValor& leida) {
+    return ImportarPlantilla(SesionActual(), kPlantillaFuncionValor, [&](const std::string& ruta) {
+        FuncionValor provisional;
+        CargarFuncionValor(provisional, ruta);
+        leida = provisional;
+    });
+}
+
+bool ExportarFuncionValor(const FuncionValor& funcion) {
+    return ExportarPlantilla(SesionActual(), kPlantillaFuncionValor, [&](const std::string& ruta) {
+        FuncionValor provisional = funcion;
+        provisional.Clave.clear();
+        GuardarFuncionValor(provisional, ruta, false);
+    });
 }
 
 } // namespace vadro

@@ -35,9 +35,18 @@ bool ExportarPlantilla(Sesion& sesion, const TipoPlantilla& tipo,
 
 // The commands of the model menu: each replaces or writes one section of the live model;
 // refreshing the windows is the caller's part.
+bool ImportarRequerimientos(Modelo& modelo);
+bool ExportarRequerimientos(Modelo& modelo);
 bool ImportarComponentes(Modelo& modelo);
 bool ExportarComponentes(const Modelo& modelo);
 bool ImportarEtapas(Modelo& modelo);
 bool ExportarEtapas(const Modelo& modelo);
+
+// The value-function template works on a scratch function with an empty key, so that its
+// lines read "FUN__IND" and so on and it binds to no indicator. The import reads the file into
+// a fresh scratch function for the editor; the export writes the function the editor filled,
+// under the empty key.
+bool ImportarFuncionValor(FuncionValor& leida);
+bool ExportarFuncionValor(const FuncionValor& funcion);
 
 } // namespace vadro

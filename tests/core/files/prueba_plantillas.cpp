@@ -1,6 +1,8 @@
 #include "core/core/ini.h"
 #include "core/files/componentes_etapas.h"
 #include "core/files/plantillas.h"
+#include "core/files/proteccion.h"
+#include "core/files/seccion_funcion.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/prueba_sesion.h"
 
@@ -89,6 +91,69 @@ TEST_F(Plantillas, TheFolderIsRememberedEvenWhenTheReadFails) {
     EXPECT_TRUE(ImportarComponentes(sesion().modelo));
     EXPECT_EQ(Directorio("COMPONENTES"), otra);
     EXPECT_EQ(sesion().modelo.Componentes.Cota(), 1);
+}
+
+TEST_F(Plantillas, ARequirementsTemplateReplacesOnlyTheTree) {
+    Modelo origen;
+    origen.NumRequerimientos = 1;
+    origen.Requerimientos.Redimensionar(1);
+    origen.Requerimientos(1).Nombre = "Funcional";
+    origen.Requerimientos(1).Calculo = 3;
+    origen.Requerimientos(1).Saaty.Redimensionar(1);
+    const std::string ruta = otra + "/arbol.req";
+    dialogos.Elegir("Exportar requerimientos", ruta);
+    ASSERT_TRUE(ExportarRequerimientos(origen));
+    EXPECT_EQ(dialogos.Peticiones().at(0).filtro, "Plantillas de requerimientos (*.req)|*.req");
+    const auto lineas = LineasPlanas(Contenido(ruta));
+    EXPECT_EQ(lineas.at(0), "*****REQUERIMIENTOS*****");
+    EXPECT_EQ(lineas.at(1), "REQ_NUMR =  1 ");
+    EXPECT_EQ(Directorio("REQUERIMIENTOS"), otra);
+
+    dialogos.Elegir("Importar requerimientos", ruta);
+    ASSERT_TRUE(ImportarRequerimientos(sesion().modelo));
+    EXPECT_EQ(sesion().modelo.Requerimientos(1).Nombre, "Funcional");
+    EXPECT_EQ(sesion().modelo.Requerimientos(1).Calculo, CalculoSaaty) << "written as 0";
+    EXPECT_EQ(sesion().modelo.Etapas(1), "Explotación");
+    EXPECT_EQ(sesion().modelo.Componentes(1).Nombre, "Depósito");
+}
+
+TEST_F(Plantillas, AValueFunctionTemplateIsBoundToNoIndicator) {
+    FuncionValor funcion;
+    funcion.Clave = "I2C1R1";
+    funcion.Tipo = FuncionContinua;
+    funcion.Unidades = "m³/h";
+    funcion.XMin = "=0";
+    funcion.XMax = "<100";
+    const std::string ruta = otra + "/caudal.fva";
+    dialogos.Elegir("Exportar función de valor", ruta);
+    ASSERT_TRUE(ExportarFuncionValor(funcion));
+    const auto lineas = LineasPlanas(Contenido(ruta));
+    EXPECT_EQ(lineas.at(0), "*****FUNCION VALOR *****");
+    EXPECT_EQ(lineas.at(1), "FUN__IND = ");
+    EXPECT_EQ(funcion.Clave, "I2C1R1") << "the editor's function keeps its key";
+    EXPECT_EQ(Directorio("FUNCION_VALOR"), otra);
+
+    FuncionValor leida;
+    leida.Clave = "I7C1R1";
+    dialogos.Elegir("Importar función de valor", ruta);
+    ASSERT_TRUE(ImportarFuncionValor(leida));
+    EXPECT_EQ(leida.Clave, "");
+    EXPECT_EQ(leida.Tipo, FuncionContinua);
+    EXPECT_EQ(leida.Unidades, "m³/h");
+    EXPECT_EQ(leida.XMin, ValorLibre("=0"));
+}
+
+TEST_F(Plantillas, AFunctionBlockUnderAnotherKeyReadsEmpty) {
+    FuncionValor deIndicador;
+    deIndicador.Clave = "I1C1R1";
+    deIndicador.Tipo = FuncionContinua;
+    deIndicador.Unidades = "kg";
+    GuardarFuncionValor(deIndicador, otra + "/ajena.fva", false);
+    FuncionValor leida;
+    dialogos.Elegir("Importar función de valor", otra + "/ajena.fva");
+    ASSERT_TRUE(ImportarFuncionValor(leida));
+    EXPECT_EQ(leida.Tipo, FuncionNinguna);
+    EXPECT_EQ(leida.Unidades, "");
 }
 
 } // namespace
