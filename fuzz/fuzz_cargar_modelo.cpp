@@ -12,7 +12,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, std::size_t tamano) {
     const std::string bytes(reinterpret_cast<const char*>(datos), tamano);
     vadro::InstalarMensajes([](const vadro::Mensaje& m) { return vadro::PrimerBoton(m.botones); });
-    vadro::ArchivoEntrada archivo(vadro::LineasPlanas(bytes));
+    vadro::ArchivoEntrada archivo = vadro::ArchivoEntrada::DesdeTexto(vadro::TextoPlano(bytes));
     vadro::Modelo modelo;
     try {
         vadro::CargarModelo(modelo, archivo);

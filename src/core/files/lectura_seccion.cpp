@@ -8,7 +8,7 @@ namespace vadro {
 
 LecturaSeccion::LecturaSeccion(ArchivoEntrada& archivo, std::string indice)
     : archivo_(archivo), indice_(std::move(indice)),
-      disponibles_(archivo.Lineas().size() + kMargenElementos) {}
+      disponibles_(archivo.NumLineas() + kMargenElementos) {}
 
 ValorLibre LecturaSeccion::Buscar(const std::string& clave) {
     return indice_.empty() ? BuscarValor(archivo_, clave) : BuscarValor(archivo_, indice_ + clave);

@@ -66,7 +66,6 @@ private:
 // A count as read: the empty text stays empty (no children), anything else must be a number.
 ValorLibre LeerCuenta(const ValorLibre& leido);
 
-
 // The integer part of a count read from a file, the empty text giving 0; a 16-bit counter
 // holds it or the count overflows.
 int ParteEntera(const ValorLibre& leido);

@@ -102,32 +102,37 @@ std::string RutaTemporal(const std::string& ruta) {
                     std::string(base.begin(), base.end()) + ".$$$");
 }
 
-std::vector<std::string> LineasPlanas(std::string_view bytes) {
-    std::vector<std::string> lineas;
-    lineas.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1);
+std::string TextoPlano(std::string_view bytes) {
+    std::string texto;
+    texto.reserve(bytes.size() + bytes.size() / 16);
     bool primera = true;
     bool plano = false;
-    bool partida = false;
     PorCadaLinea(bytes, [&](std::string_view linea) {
         if (primera) {
             plano = linea.substr(0, 5) == "*****";
             primera = false;
         }
         if (plano) {
-            lineas.emplace_back(linea);
+            texto += linea;
         } else if (!linea.empty()) {
-            std::string decodificada(linea.size(), '\0');
-            partida |= AplicarFrase(linea, decodificada.data(), Decodificar);
-            lineas.push_back(std::move(decodificada));
+            const std::size_t inicio = texto.size();
+            texto.resize(inicio + linea.size());
+            AplicarFrase(linea, texto.data() + inicio, Decodificar);
+        } else {
+            return;
         }
+        texto += "\r\n";
     });
-    // A decoded line break splits its line, as it does when the plain text is read back.
-    return partida ? DividirLineas(UnirLineas(lineas)) : lineas;
+    return texto;
+}
+
+std::vector<std::string> LineasPlanas(std::string_view bytes) {
+    return DividirLineas(TextoPlano(bytes));
 }
 
 std::string RecuperarArchivo(const std::string& ruta) {
     const std::string temporal = RutaTemporal(ruta);
-    EscribirArchivo(temporal, UnirLineas(LineasPlanas(LeerArchivo(ruta))));
+    EscribirArchivo(temporal, TextoPlano(LeerArchivo(ruta)));
     return temporal;
 }
 

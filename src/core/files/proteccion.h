@@ -33,6 +33,11 @@ std::string RutaTemporal(const std::string& ruta);
 // scrambled file empty lines are skipped and every other line decoded.
 std::string RecuperarArchivo(const std::string& ruta);
 
+// The plain text of a file's bytes, scrambled or not, as RecuperarArchivo writes it: every line
+// ended by carriage return and line feed. A decoded line break splits its line when the text
+// is read back.
+std::string TextoPlano(std::string_view bytes);
+
 // The plain lines of a file, scrambled or not, without a temporary file.
 std::vector<std::string> LineasPlanas(std::string_view bytes);
 

@@ -9,6 +9,7 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string_view>
 
 namespace vadro {
@@ -21,9 +22,44 @@ constexpr std::size_t kBusquedasMinimas = 1000000;
 
 } // namespace
 
-ArchivoEntrada::ArchivoEntrada(std::vector<std::string> lineasOchoBits, std::string temporal)
-    : lineas_(std::move(lineasOchoBits)), temporal_(std::move(temporal)),
-      presupuesto_(kBusquedasMinimas + kBusquedasPorLinea * lineas_.size()) {}
+namespace {
+
+std::size_t Presupuesto(std::size_t lineas) {
+    return kBusquedasMinimas + kBusquedasPorLinea * lineas;
+}
+
+} // namespace
+
+ArchivoEntrada::ArchivoEntrada(const std::vector<std::string>& lineasOchoBits) {
+    for (const auto& linea : lineasOchoBits) {
+        lineas_.push_back({texto_.size(), linea.size()});
+        texto_ += linea;
+    }
+    presupuesto_ = Presupuesto(lineas_.size());
+}
+
+ArchivoEntrada::ArchivoEntrada(Texto, std::string textoOchoBits, std::string temporal)
+    : texto_(std::move(textoOchoBits)), temporal_(std::move(temporal)) {
+    const std::string_view texto(texto_);
+    lineas_.reserve(static_cast<std::size_t>(std::count(texto.begin(), texto.end(), '\n')) + 1);
+    PorCadaLinea(texto, [this, texto](std::string_view linea) {
+        lineas_.push_back({static_cast<std::size_t>(linea.data() - texto.data()), linea.size()});
+    });
+    presupuesto_ = Presupuesto(lineas_.size());
+}
+
+ArchivoEntrada ArchivoEntrada::DesdeTexto(std::string textoOchoBits, std::string temporal) {
+    return ArchivoEntrada(Texto{}, std::move(textoOchoBits), std::move(temporal));
+}
+
+std::vector<std::string> ArchivoEntrada::Lineas() const {
+    std::vector<std::string> lineas;
+    lineas.reserve(lineas_.size());
+    for (const Tramo& tramo : lineas_) {
+        lineas.emplace_back(Linea(tramo));
+    }
+    return lineas;
+}
 
 void ArchivoEntrada::CobrarBusqueda(std::size_t lineasLeidas) {
     const std::size_t coste = lineasLeidas + 1;
@@ -47,19 +83,19 @@ bool EsAscii(std::string_view texto) {
 } // namespace
 
 // As RecuperarArchivo, the plain text goes to the temporary file, which the reader deletes
-// when it is done; the lines are kept from memory rather than read back from it.
+// when it is done; the text is kept from memory rather than read back from it.
 ArchivoEntrada ArchivoEntrada::Abrir(const std::string& ruta) {
-    std::vector<std::string> lineas = LineasPlanas(LeerArchivo(ruta));
+    std::string texto = TextoPlano(LeerArchivo(ruta));
     const std::string temporal = RutaTemporal(ruta);
-    EscribirArchivo(temporal, UnirLineas(lineas));
-    return ArchivoEntrada(std::move(lineas), temporal);
+    EscribirArchivo(temporal, texto);
+    return DesdeTexto(std::move(texto), temporal);
 }
 
-const std::string& ArchivoEntrada::LeerLinea() {
+std::string_view ArchivoEntrada::LeerLinea() {
     if (FinArchivo()) {
         throw ErrorEjecucion(ErrFinArchivo);
     }
-    return lineas_[posicion_++];
+    return Linea(lineas_[posicion_++]);
 }
 
 void ArchivoEntrada::BorrarTemporal() {
@@ -71,22 +107,22 @@ void ArchivoEntrada::BorrarTemporal() {
 
 namespace {
 
-bool Contiene(const std::string& linea, std::string_view texto) {
-    return linea.find(texto) != std::string::npos;
+bool Contiene(std::string_view linea, std::string_view texto) {
+    return linea.find(texto) != std::string_view::npos;
 }
 
 // The key part of a line: the text before its first "=", without the blank in front of it.
-std::string ParteClave(const std::string& linea) {
-    std::string parte = linea.substr(0, linea.find('='));
+std::string ParteClave(std::string_view linea) {
+    std::string_view parte = linea.substr(0, linea.find('='));
     if (!parte.empty() && parte.back() == ' ') {
-        parte.pop_back();
+        parte.remove_suffix(1);
     }
-    return parte;
+    return std::string(parte);
 }
 
-std::string RecortarBlancos(const std::string& texto) {
+std::string_view RecortarBlancos(std::string_view texto) {
     const auto inicio = texto.find_first_not_of(' ');
-    if (inicio == std::string::npos) {
+    if (inicio == std::string_view::npos) {
         return {};
     }
     return texto.substr(inicio, texto.find_last_not_of(' ') - inicio + 1);
@@ -94,12 +130,12 @@ std::string RecortarBlancos(const std::string& texto) {
 
 // What follows the last "=" of the line, the very last character left unexamined, trimmed:
 // so "a=b" reads "b", and a value ending in "=" keeps it.
-std::string ValorDeLinea(const std::string& linea) {
+std::string_view ValorDeLinea(std::string_view linea) {
     if (linea.size() < 2) {
         return {};
     }
     const auto igual = linea.rfind('=', linea.size() - 2);
-    if (igual == std::string::npos) {
+    if (igual == std::string_view::npos) {
         return {};
     }
     return RecortarBlancos(linea.substr(igual + 1));
@@ -121,15 +157,15 @@ ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave) {
         convertida = AOchoBits(clave);
         clave8 = convertida;
     }
-    const std::string* linea = nullptr;
-    const std::string* lineaPrimeraClave = nullptr;
+    std::string_view linea;
+    std::optional<std::string_view> lineaPrimeraClave;
     while (!archivo.FinArchivo()) {
-        linea = &archivo.LeerLinea();
+        linea = archivo.LeerLinea();
         ++leidas;
-        if (lineaPrimeraClave == nullptr && Contiene(*linea, "=")) {
+        if (!lineaPrimeraClave && Contiene(linea, "=")) {
             lineaPrimeraClave = linea;
         }
-        if (Contiene(*linea, clave8)) {
+        if (Contiene(linea, clave8)) {
             break;
         }
     }
@@ -137,22 +173,22 @@ ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave) {
         // Once more from the start, up to the line where the search began. An empty first
         // key is found in the first line, and so is a missing one.
         const std::string primeraClave =
-            lineaPrimeraClave != nullptr ? ParteClave(*lineaPrimeraClave) : std::string();
+            lineaPrimeraClave ? ParteClave(*lineaPrimeraClave) : std::string();
         archivo.IrA(0);
         while (!archivo.FinArchivo()) {
-            linea = &archivo.LeerLinea();
+            linea = archivo.LeerLinea();
             ++leidas;
-            if (Contiene(*linea, clave8) || Contiene(*linea, primeraClave)) {
+            if (Contiene(linea, clave8) || Contiene(linea, primeraClave)) {
                 break;
             }
         }
     }
     archivo.CobrarBusqueda(leidas);
-    if (!Contiene(*linea, clave8)) {
+    if (!Contiene(linea, clave8)) {
         archivo.IrA(inicio);
         return ValorLibre();
     }
-    return ValorLibre(DesdeOchoBits(ValorDeLinea(*linea)));
+    return ValorLibre(DesdeOchoBits(ValorDeLinea(linea)));
 }
 
 // Text that is plain ASCII is its own 8-bit form.

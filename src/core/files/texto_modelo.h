@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vadro {
@@ -13,19 +14,25 @@ namespace vadro {
 class ArchivoEntrada {
 public:
     ArchivoEntrada() : ArchivoEntrada(std::vector<std::string>{}) {}
-    explicit ArchivoEntrada(std::vector<std::string> lineasOchoBits, std::string temporal = {});
+    // A file made of these lines.
+    explicit ArchivoEntrada(const std::vector<std::string>& lineasOchoBits);
+    // A file whose plain 8-bit text this is, split into lines as any reader splits it.
+    static ArchivoEntrada DesdeTexto(std::string textoOchoBits, std::string temporal = {});
 
     // Opens a complete file as its plain text: the scrambled form is decoded into a temporary
     // file in the program directory, which the reader deletes when it is done.
     static ArchivoEntrada Abrir(const std::string& ruta);
 
     bool FinArchivo() const { return posicion_ >= lineas_.size(); }
+    std::size_t NumLineas() const { return lineas_.size(); }
     std::size_t Posicion() const { return posicion_; }
     void IrA(std::size_t posicion) { posicion_ = posicion; }
-    // The next line; reading past the end is runtime error 62.
-    const std::string& LeerLinea();
+    // The next line; reading past the end is runtime error 62. It stays valid while the file
+    // does.
+    std::string_view LeerLinea();
 
-    const std::vector<std::string>& Lineas() const { return lineas_; }
+    // A copy of all the lines.
+    std::vector<std::string> Lineas() const;
 
     // Deletes the temporary file of the plain text, if any.
     void BorrarTemporal();
@@ -37,7 +44,21 @@ public:
     void CobrarBusqueda(std::size_t lineasLeidas);
 
 private:
-    std::vector<std::string> lineas_;
+    struct Texto {};
+    ArchivoEntrada(Texto, std::string textoOchoBits, std::string temporal);
+
+    // Where a line stands in the text; offsets, not views, so that a moved file stays valid.
+    struct Tramo {
+        std::size_t inicio;
+        std::size_t largo;
+    };
+    std::string_view Linea(const Tramo& tramo) const {
+        return std::string_view(texto_).substr(tramo.inicio, tramo.largo);
+    }
+
+    // All lines in one buffer: a large model has hundreds of thousands of them.
+    std::string texto_;
+    std::vector<Tramo> lineas_;
     std::size_t posicion_ = 0;
     std::string temporal_;
     std::size_t presupuesto_ = 0;
