@@ -72,25 +72,25 @@ std::string DecodificarLinea(const std::string& linea) {
 
 // Coded straight into one buffer; only when a coded character breaks a line does the general
 // rule have to run.
+std::string ProtegerTexto(std::string_view textoPlano) {
+    std::string bytes;
+    bytes.reserve(textoPlano.size() + textoPlano.size() / 8);
+    bool salto = false;
+    PorCadaLinea(textoPlano, [&](std::string_view linea) {
+        const std::size_t inicio = bytes.size();
+        bytes.resize(inicio + linea.size());
+        salto |= AplicarFrase(linea, bytes.data() + inicio, Codificar);
+        bytes += "\r\n\r\n";
+    });
+    return salto ? ProtegidoPorLineas(DividirLineas(textoPlano)) : bytes;
+}
+
 std::string TextoProtegido(const std::vector<std::string>& lineasPlanas) {
-    std::size_t total = 0;
-    for (const auto& linea : lineasPlanas) {
-        total += linea.size() + 4;
-    }
-    std::string bytes(total, '\0');
-    char* destino = bytes.data();
-    for (const auto& linea : lineasPlanas) {
-        if (AplicarFrase(linea, destino, Codificar)) {
-            return ProtegidoPorLineas(lineasPlanas);
-        }
-        destino = std::copy_n("\r\n\r\n", 4, destino + linea.size());
-    }
-    return bytes;
+    return ProtegerTexto(UnirLineas(lineasPlanas));
 }
 
 std::string ProtegerArchivo(const std::string& ruta) {
-    const std::string plano = LeerArchivo(ruta);
-    EscribirArchivo(ruta, TextoProtegido(DividirLineas(plano)));
+    EscribirArchivo(ruta, ProtegerTexto(LeerArchivo(ruta)));
     return ruta;
 }
 

@@ -20,6 +20,8 @@ std::string DecodificarLinea(const std::string& linea);
 // line. A coded character 10 or 13 breaks its line, exactly as in a second pass over the
 // coded file.
 std::string TextoProtegido(const std::vector<std::string>& lineasPlanas);
+// The same for a plain text, its lines ended as DividirLineas reads them.
+std::string ProtegerTexto(std::string_view textoPlano);
 
 // Turns the plain text at the path into its scrambled form, at the same path; the previous
 // file is replaced only when the new one is whole. Returns the path.

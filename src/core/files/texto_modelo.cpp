@@ -193,24 +193,35 @@ ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave) {
 
 // Text that is plain ASCII is its own 8-bit form.
 void ArchivoSalida::Escribir(const std::string& linea) {
-    lineas_.push_back(EsAscii(linea) ? linea : AOchoBits(linea));
+    if (EsAscii(linea)) {
+        texto_ += linea;
+    } else {
+        texto_ += AOchoBits(linea);
+    }
+    texto_ += "\r\n";
 }
 
 void ArchivoSalida::Escribir(const std::string& clave, const std::string& valor) {
-    std::string linea;
-    linea.reserve(clave.size() + 3 + valor.size());
-    linea += clave;
-    linea += " = ";
-    linea += valor;
-    lineas_.push_back(EsAscii(linea) ? std::move(linea) : AOchoBits(linea));
+    if (EsAscii(clave) && EsAscii(valor)) {
+        texto_ += clave;
+        texto_ += " = ";
+        texto_ += valor;
+        texto_ += "\r\n";
+    } else {
+        Escribir(clave + " = " + valor);
+    }
+}
+
+std::vector<std::string> ArchivoSalida::Lineas() const {
+    return DividirLineas(texto_);
 }
 
 void EscribirCompleto(const std::string& ruta, const ArchivoSalida& salida) {
-    EscribirArchivo(ruta, TextoProtegido(salida.Lineas()));
+    EscribirArchivo(ruta, ProtegerTexto(salida.Texto()));
 }
 
 void AnadirSeccion(const std::string& ruta, const ArchivoSalida& salida) {
-    AnadirArchivo(ruta, UnirLineas(salida.Lineas()));
+    AnadirArchivo(ruta, salida.Texto());
 }
 
 void GuardarSeccion(const std::string& ruta, const ArchivoSalida& salida, bool anadir) {

@@ -70,7 +70,9 @@ private:
 // gives the empty text and leaves the position as it was.
 ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave);
 
-// The lines of a file about to be written, kept in 8-bit text.
+// The plain text of a file about to be written, in 8-bit text, each line ended by carriage
+// return and line feed. A value that holds a line break breaks its line there, as it does in
+// the written file.
 class ArchivoSalida {
 public:
     // One line of UTF-8 text.
@@ -78,11 +80,12 @@ public:
     // A value line: key, " = ", value.
     void Escribir(const std::string& clave, const std::string& valor);
 
-    const std::vector<std::string>& Lineas() const { return lineas_; }
-    std::size_t Tamano() const { return lineas_.size(); }
+    const std::string& Texto() const { return texto_; }
+    // A copy of the lines, as a reader of the file will see them.
+    std::vector<std::string> Lineas() const;
 
 private:
-    std::vector<std::string> lineas_;
+    std::string texto_;
 };
 
 // Writes the lines as a complete file, scrambled; the previous file is replaced only when

@@ -110,6 +110,20 @@ TEST_F(Cabecera, EqualsSignsInValuesFollowTheLastEqualsRule) {
     EXPECT_EQ(leido.Autor, "blancos");
 }
 
+TEST_F(Cabecera, AValueWithALineBreakIsCutAtItsFirstLine) {
+    Modelo m;
+    m.Descripcion = "primera\nsegunda";
+    m.Referencia = "R";
+    GuardarModelo(m, ruta, false);
+    const auto lineas = LineasDelArchivo();
+    EXPECT_EQ(lineas.at(8), "MOD_DSC = primera");
+    EXPECT_EQ(lineas.at(9), "segunda") << "each piece is coded from the start of the key";
+    Modelo leido;
+    CargarModelo(leido, ruta);
+    EXPECT_EQ(leido.Descripcion, "primera");
+    EXPECT_EQ(leido.Referencia, "R");
+}
+
 TEST_F(Cabecera, SavingTwiceGivesTheSameText) {
     Modelo m = ModeloCompleto();
     GuardarModelo(m, ruta, false);

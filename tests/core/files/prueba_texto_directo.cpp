@@ -99,7 +99,10 @@ TEST_F(TextoDirecto, WritingAndOpeningAgreeWithTheLineByLineRules) {
             salida.Escribir(DesdeOchoBits(linea));
         }
         EscribirCompleto(ruta, salida);
-        ASSERT_EQ(Contenido(ruta), ProtegidoEnDosPasadas(lineas)) << semilla;
+        // The plain text is read back line by line before it is coded, so a line break in a
+        // value splits its line there.
+        ASSERT_EQ(Contenido(ruta), ProtegidoEnDosPasadas(DividirLineas(UnirLineas(lineas))))
+            << semilla;
         Escribir(ruta, UnirLineas(lineas)); // random bytes read as scrambled text
         Comprobar(semilla);
         Escribir(ruta, "*****\r\n" + UnirLineas(lineas)); // and as plain text
