@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <functional>
+#include <initializer_list>
 #include <numeric>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace vadro {
@@ -27,14 +29,38 @@ std::string N(int numero) {
     return std::to_string(numero);
 }
 
+// Joins the pieces of a line or a key in one allocation.
+std::string Unir(std::initializer_list<std::string_view> partes) {
+    std::size_t largo = 0;
+    for (const std::string_view parte : partes) {
+        largo += parte.size();
+    }
+    std::string texto;
+    texto.reserve(largo);
+    for (const std::string_view parte : partes) {
+        texto += parte;
+    }
+    return texto;
+}
+
+// An error key: the key word, a blank and the place.
+std::string Clave(std::string_view palabra, std::string_view lugar) {
+    return Unir({palabra, " ", lugar});
+}
+
+// A finding on one node: "Error: " or "Aviso: ", "el nodo ", its label and what is said.
+std::string SobreNodo(std::string_view inicio, std::string_view etiqueta, std::string_view texto) {
+    return Unir({inicio, "el nodo ", etiqueta, texto});
+}
+
 std::string EtiquetaR(int r) {
-    return "R" + N(r);
+    return Unir({"R", N(r)});
 }
 std::string EtiquetaC(int c, int r) {
-    return "C" + N(c) + EtiquetaR(r);
+    return Unir({"C", N(c), EtiquetaR(r)});
 }
 std::string EtiquetaS(int s, int c, int r) {
-    return "S" + N(s) + EtiquetaC(c, r);
+    return Unir({"S", N(s), EtiquetaC(c, r)});
 }
 
 // A level of a check: its line, its findings, and the all-clear when the findings added no
@@ -95,7 +121,7 @@ struct ConjuntoIndicadores {
     int cuenta;
     const Arreglo<NodoIndicador>& indicadores;
 
-    std::string Etiqueta(int i) const { return "I" + N(i) + padre; }
+    std::string Etiqueta(int i) const { return Unir({"I", N(i), padre}); }
 };
 
 // Within a criterion the indicators of its subcriteria come first, then its own; both by
@@ -161,13 +187,13 @@ void ParaCadaParRepetido(int cuenta, NombreDe&& nombreDe, F&& f) {
 }
 
 std::string MismoNombre(const std::string& p, const std::string& q, const std::string& nombre) {
-    return kError + ("los nodos " + p) + " y " + q + " tienen el mismo nombre (" + nombre + ")";
+    return Unir({kError, "los nodos ", p, " y ", q, " tienen el mismo nombre (", nombre, ")"});
 }
 
 // The indicators of a subcriterion say it with a colon and no brackets.
 std::string MismoNombreConDosPuntos(const std::string& p, const std::string& q,
                                     const std::string& nombre) {
-    return kError + ("los nodos " + p) + " y " + q + " tienen el mismo nombre: " + nombre;
+    return Unir({kError, "los nodos ", p, " y ", q, " tienen el mismo nombre: ", nombre});
 }
 
 // ---- weights
@@ -179,8 +205,7 @@ bool PesoNulo(const CabeceraNodo& nodo) {
 void InformarPesoNulo(InformeErrores& informe, const CabeceraNodo& nodo,
                       const std::string& etiqueta) {
     if (PesoNulo(nodo)) {
-        informe.Agregar(kError + ("el nodo " + etiqueta) + " tiene peso nulo",
-                        "PesNul " + etiqueta);
+        informe.Agregar(SobreNodo(kError, etiqueta, " tiene peso nulo"), Clave("PesNul", etiqueta));
     }
 }
 
@@ -214,10 +239,10 @@ void InformarMatriz(InformeErrores& informe, const CabeceraNodo& primero,
                     const TextosMatriz& textos) {
     switch (Estado(primero)) {
     case EstadoMatriz::Vacia:
-        informe.Agregar(kError + textos.vacia, textos.clave);
+        informe.Agregar(Unir({kError, textos.vacia}), textos.clave);
         break;
     case EstadoMatriz::Inconsistente:
-        informe.Agregar(kAviso + textos.inconsistente, textos.clave);
+        informe.Agregar(Unir({kAviso, textos.inconsistente}), textos.clave);
         break;
     case EstadoMatriz::Correcta:
         break;
@@ -228,30 +253,34 @@ constexpr const char* kNoConsistente = " no es consistente (consistencia > 0.1)"
 
 TextosMatriz MatrizRequerimientos() {
     return {"la matriz de pesos de los requerimientos está vacía",
-            std::string("la matriz de requerimientos") + kNoConsistente, "NoCons R"};
+            Unir({"la matriz de requerimientos", kNoConsistente}), "NoCons R"};
 }
 
 TextosMatriz MatrizCriterios(int r) {
-    return {"la matriz de pesos de los criterios del requerimiento " + EtiquetaR(r) + " está vacía",
-            "la matriz de criterios del requerimiento " + EtiquetaR(r) + kNoConsistente,
-            "NoCons C" + EtiquetaR(r)};
+    const std::string requerimiento = EtiquetaR(r);
+    return {Unir({"la matriz de pesos de los criterios del requerimiento ", requerimiento,
+                  " está vacía"}),
+            Unir({"la matriz de criterios del requerimiento ", requerimiento, kNoConsistente}),
+            Unir({"NoCons C", requerimiento})};
 }
 
 // "la matriz pesos", without "de", is how this message has always read.
 TextosMatriz MatrizSubcriterios(int c, int r) {
-    return {"la matriz pesos de los subcriterios del criterio " + EtiquetaC(c, r) + " está vacía",
-            "la matriz de subcriterios del criterio " + EtiquetaC(c, r) + kNoConsistente,
-            "NoCons S" + EtiquetaC(c, r)};
+    const std::string criterio = EtiquetaC(c, r);
+    return {Unir({"la matriz pesos de los subcriterios del criterio ", criterio, " está vacía"}),
+            Unir({"la matriz de subcriterios del criterio ", criterio, kNoConsistente}),
+            Unir({"NoCons S", criterio})};
 }
 
 // The key names the set, so the indicator stands as the literal number 0; the empty matrix of
 // a subcriterion's indicators keeps its old tail ", , 1".
 TextosMatriz MatrizIndicadores(const ConjuntoIndicadores& conjunto) {
-    const std::string padre =
-        (conjunto.deSubcriterio ? "del subcriterio " : "del criterio ") + conjunto.padre;
-    return {"la matriz de pesos de los indicadores " + padre + " está vacía" +
-                (conjunto.deSubcriterio ? ", , 1" : ""),
-            "la matriz de indicadores " + padre + kNoConsistente, "NoCons I0" + conjunto.padre};
+    const std::string_view del = conjunto.deSubcriterio ? "del subcriterio " : "del criterio ";
+    const std::string_view cola = conjunto.deSubcriterio ? ", , 1" : "";
+    return {
+        Unir({"la matriz de pesos de los indicadores ", del, conjunto.padre, " está vacía", cola}),
+        Unir({"la matriz de indicadores ", del, conjunto.padre, kNoConsistente}),
+        Unir({"NoCons I0", conjunto.padre})};
 }
 
 // ---- value functions
@@ -378,9 +407,9 @@ void ComprobarFuncion(const FuncionValor& f, const Hallazgo& hallazgo) {
 void InformarRama(InformeErrores& informe, const std::string& etiqueta, const char* error,
                   const char* aviso, int hijos) {
     if (hijos == 0) {
-        informe.Agregar(kError + ("el nodo " + etiqueta) + error, "SinHij " + etiqueta);
+        informe.Agregar(SobreNodo(kError, etiqueta, error), Clave("SinHij", etiqueta));
     } else if (hijos == 1) {
-        informe.Agregar(kAviso + ("el nodo " + etiqueta) + aviso, "SinHij " + etiqueta);
+        informe.Agregar(SobreNodo(kAviso, etiqueta, aviso), Clave("SinHij", etiqueta));
     }
 }
 
@@ -391,7 +420,7 @@ void InformarCriterio(InformeErrores& informe, const NodoCriterio& criterio,
     const int indicadores = criterio.NumIndicadores.Cuenta();
     const int subcriterios = criterio.NumSubcriterios.Cuenta();
     const auto agregar = [&](const char* inicio, const char* texto) {
-        informe.Agregar(inicio + ("el nodo " + etiqueta) + texto, "SinHij " + etiqueta);
+        informe.Agregar(SobreNodo(inicio, etiqueta, texto), Clave("SinHij", etiqueta));
     };
     if (indicadores == 0 && subcriterios == 0) {
         agregar(kError, conSubcriterios ? " no tiene subcriterios ni indicadores"
@@ -469,21 +498,22 @@ void ComprobarNombresRepetidosComponentes(const Modelo& modelo, InformeErrores& 
         ParaCadaParRepetido(
             componentes, [&](int k) -> const std::string& { return modelo.Componentes(k).Nombre; },
             [&](int p, int q) {
-                informe.Agregar(MismoNombre("C" + N(p), "C" + N(q), modelo.Componentes(p).Nombre),
-                                "CmpRep Co" + N(q));
+                informe.Agregar(
+                    MismoNombre(Unir({"C", N(p)}), Unir({"C", N(q)}), modelo.Componentes(p).Nombre),
+                    Unir({"CmpRep Co", N(q)}));
             });
     });
     Nivel(informe, kNivelOpciones, [&] {
         for (int k = 1; k <= componentes; ++k) {
             const Componente& componente = modelo.Componentes(k);
-            const std::string padre = "C" + N(k);
+            const std::string padre = Unir({"C", N(k)});
             ParaCadaParRepetido(
                 componente.NumSubcomponentes,
                 [&](int o) -> const std::string& { return componente.Subcomponentes(o).Nombre; },
                 [&](int p, int q) {
-                    informe.Agregar(MismoNombre("O" + N(p) + padre, "O" + N(q) + padre,
+                    informe.Agregar(MismoNombre(Unir({"O", N(p), padre}), Unir({"O", N(q), padre}),
                                                 componente.Subcomponentes(p).Nombre),
-                                    "CmpRep Op" + N(q) + "Co" + N(k));
+                                    Unir({"CmpRep Op", N(q), "Co", N(k)}));
                 });
         }
     });
@@ -505,7 +535,7 @@ void ComprobarNombresRepetidosRequerimientos(const Modelo& modelo, InformeErrore
             [&](int p, int q) {
                 informe.Agregar(
                     MismoNombre(EtiquetaR(p), EtiquetaR(q), modelo.Requerimientos(p).Nombre),
-                    "ReqRep " + EtiquetaR(q));
+                    Clave("ReqRep", EtiquetaR(q)));
             });
     });
     Nivel(informe, kNivelCriterios, [&] {
@@ -516,7 +546,7 @@ void ComprobarNombresRepetidosRequerimientos(const Modelo& modelo, InformeErrore
                 [&](int p, int q) {
                     informe.Agregar(MismoNombre(EtiquetaC(p, r), EtiquetaC(q, r),
                                                 requerimiento.Criterios(p).Nombre),
-                                    "ReqRep " + EtiquetaC(q, r));
+                                    Clave("ReqRep", EtiquetaC(q, r)));
                 });
         });
     });
@@ -529,7 +559,7 @@ void ComprobarNombresRepetidosRequerimientos(const Modelo& modelo, InformeErrore
                     [&](int p, int q) {
                         informe.Agregar(MismoNombre(EtiquetaS(p, c, r), EtiquetaS(q, c, r),
                                                     criterio.Subcriterios(p).Nombre),
-                                        "ReqRep " + EtiquetaS(q, c, r));
+                                        Clave("ReqRep", EtiquetaS(q, c, r)));
                     });
             });
         });
@@ -543,7 +573,7 @@ void ComprobarNombresRepetidosRequerimientos(const Modelo& modelo, InformeErrore
                 [&](int p, int q) {
                     informe.Agregar(linea(conjunto.Etiqueta(p), conjunto.Etiqueta(q),
                                           conjunto.indicadores(p).Nombre),
-                                    "ReqRep " + conjunto.Etiqueta(q));
+                                    Clave("ReqRep", conjunto.Etiqueta(q)));
                 });
         });
     });
@@ -621,7 +651,7 @@ void ComprobarFuncionValor(const Modelo& modelo, InformeErrores& informe) {
                                       const NodoIndicador& indicador) {
             ComprobarFuncion(indicador.Funcion, [&](const char* texto) {
                 const std::string etiqueta = conjunto.Etiqueta(i);
-                informe.Agregar(kError + ("el nodo " + etiqueta) + texto, "FunVal " + etiqueta);
+                informe.Agregar(SobreNodo(kError, etiqueta, texto), Clave("FunVal", etiqueta));
             });
         });
     });

@@ -52,8 +52,8 @@ void InformeErrores::Insertar(const std::string& linea) {
 // Each goes in at the top, so the last one inserted is the first line.
 void InformeErrores::InsertarTotales() {
     Insertar("");
-    Insertar("ERRORES TOTALES: " + std::to_string(errores_));
-    Insertar("AVISOS TOTALES: " + std::to_string(avisos_));
+    Insertar(std::string("ERRORES TOTALES: ").append(std::to_string(errores_)));
+    Insertar(std::string("AVISOS TOTALES: ").append(std::to_string(avisos_)));
 }
 
 std::string TextoInforme(const InformeErrores& informe, bool conClaves) {
