@@ -149,6 +149,18 @@ template <typename F> void ParaCadaIndicador(const Modelo& modelo, F&& f) {
 
 // ---- repeated names
 
+// The bytes of the UTF-8 character that starts at i; a broken sequence ends early.
+std::size_t LargoCaracter(const std::string& texto, std::size_t i) {
+    const auto inicio = static_cast<unsigned char>(texto[i]);
+    const std::size_t esperado = inicio >= 0xF0 ? 4 : inicio >= 0xE0 ? 3 : inicio >= 0xC0 ? 2 : 1;
+    std::size_t largo = 1;
+    while (largo < esperado && i + largo < texto.size() &&
+           (static_cast<unsigned char>(texto[i + largo]) & 0xC0) == 0x80) {
+        ++largo;
+    }
+    return largo;
+}
+
 // Every pair p < q of siblings that bear one name, p ascending and q ascending within it.
 // Sorting the names first keeps a large set from comparing every name with every other.
 template <typename NombreDe, typename F>
@@ -437,21 +449,6 @@ void InformarCriterio(InformeErrores& informe, const NodoCriterio& criterio,
 bool ConNivelSubcriterios(const Modelo& modelo) {
     return modelo.ConSubcriterios && HaySubcriterios(modelo);
 }
-
-namespace {
-
-std::size_t LargoCaracter(const std::string& texto, std::size_t i) {
-    const auto inicio = static_cast<unsigned char>(texto[i]);
-    const std::size_t esperado = inicio >= 0xF0 ? 4 : inicio >= 0xE0 ? 3 : inicio >= 0xC0 ? 2 : 1;
-    std::size_t largo = 1;
-    while (largo < esperado && i + largo < texto.size() &&
-           (static_cast<unsigned char>(texto[i + largo]) & 0xC0) == 0x80) {
-        ++largo;
-    }
-    return largo;
-}
-
-} // namespace
 
 // A character the 8-bit page lacks keeps its form; two such characters are one name only if
 // they are the same.
