@@ -4,6 +4,7 @@
 #include "core/core/registros.h"
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -102,15 +103,25 @@ inline Modelo ModeloCorrecto() {
                       Requerimiento("Social", {criterio("Empleo"), criterio("Seguridad")})});
 }
 
-// A report line and its key, as a test expects them.
-using LineaEsperada = std::pair<std::string, std::string>;
-
-// Report lines and keys in the form of the text with keys, one "line<TAB>key" per line, so
-// that a failing comparison shows a line-by-line difference.
-inline std::string Texto(const std::vector<LineaEsperada>& lineas) {
+// Expected report lines written as the report reads, one per line, with " | " and the key
+// after the lines that have one: the text with keys of those lines ("line<TAB>key"), so that
+// a failing comparison shows a line-by-line difference. The line break right after the
+// opening of a raw literal is dropped.
+inline std::string Esperado(std::string_view tabla) {
+    if (tabla.starts_with('\n')) {
+        tabla.remove_prefix(1);
+    }
     std::string texto;
-    for (const auto& [linea, clave] : lineas) {
-        texto += linea + '\t' + clave + '\n';
+    while (!tabla.empty()) {
+        const std::size_t fin = tabla.find('\n');
+        std::string_view linea = tabla.substr(0, fin);
+        std::string_view clave;
+        if (const std::size_t barra = linea.find(" | "); barra != std::string_view::npos) {
+            clave = linea.substr(barra + 3);
+            linea = linea.substr(0, barra);
+        }
+        texto.append(linea).append("\t").append(clave).append("\n");
+        tabla.remove_prefix(fin == std::string_view::npos ? tabla.size() : fin + 1);
     }
     return texto;
 }

@@ -14,83 +14,75 @@
 namespace vadro {
 namespace {
 
-using pruebas::Texto;
-
-const std::string kSin = "     <sin errores>";
+using pruebas::Esperado;
 
 // The sections of a model with a requirements tree and nothing to say about it, the
 // subcriteria level left out.
-std::vector<pruebas::LineaEsperada> SeccionesArbolSinHallazgos() {
-    return {{"COMPROBACION DE REPETICION DE NOMBRES EN REQUERIMIENTOS", ""},
-            {"** nivel de requerimientos **", ""},
-            {kSin, ""},
-            {"** nivel de criterios **", ""},
-            {kSin, ""},
-            {"** nivel de indicadores **", ""},
-            {kSin, ""},
-            {"", ""},
-            {"COMPROBACION DE PESOS NULOS", ""},
-            {"** nivel de requerimientos **", ""},
-            {kSin, ""},
-            {"** nivel de criterios **", ""},
-            {kSin, ""},
-            {"** nivel de indicadores **", ""},
-            {kSin, ""},
-            {"", ""},
-            {"COMPROBACION DE MATRICES NO CONSISTENTES", ""},
-            {"** nivel de requerimientos **", ""},
-            {kSin, ""},
-            {"** nivel de criterios **", ""},
-            {kSin, ""},
-            {"** nivel de indicadores **", ""},
-            {kSin, ""},
-            {"", ""},
-            {"COMPROBACION DE FUNCIONES DE VALOR", ""},
-            {"** nivel de indicadores **", ""},
-            {kSin, ""},
-            {"", ""},
-            {"COMPROBACION DE RAMAS INCOMPLETAS", ""},
-            {"** nivel de requerimientos **", ""},
-            {kSin, ""},
-            {"** nivel de criterios **", ""},
-            {kSin, ""},
-            {"", ""}};
-}
+constexpr const char* kArbolSinHallazgos = R"(
+COMPROBACION DE REPETICION DE NOMBRES EN REQUERIMIENTOS
+** nivel de requerimientos **
+     <sin errores>
+** nivel de criterios **
+     <sin errores>
+** nivel de indicadores **
+     <sin errores>
 
-std::vector<pruebas::LineaEsperada> Unir(std::vector<pruebas::LineaEsperada> a,
-                                         const std::vector<pruebas::LineaEsperada>& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
+COMPROBACION DE PESOS NULOS
+** nivel de requerimientos **
+     <sin errores>
+** nivel de criterios **
+     <sin errores>
+** nivel de indicadores **
+     <sin errores>
+
+COMPROBACION DE MATRICES NO CONSISTENTES
+** nivel de requerimientos **
+     <sin errores>
+** nivel de criterios **
+     <sin errores>
+** nivel de indicadores **
+     <sin errores>
+
+COMPROBACION DE FUNCIONES DE VALOR
+** nivel de indicadores **
+     <sin errores>
+
+COMPROBACION DE RAMAS INCOMPLETAS
+** nivel de requerimientos **
+     <sin errores>
+** nivel de criterios **
+     <sin errores>
+
+)";
 
 TEST(Compilacion, AnEmptyModelWarnsOfStagesAndComponentsAndLacksItsTree) {
-    const std::vector<pruebas::LineaEsperada> esperado =
-        Unir({{"AVISOS TOTALES: 2", ""},
-              {"ERRORES TOTALES: 1", ""},
-              {"", ""},
-              {"COMPROBACION DEL CICLO DE VIDA", ""},
-              {"     Aviso: no se han definido etapas del ciclo de vida", "SinEta"},
-              {"", ""},
-              {"COMPROBACION DE EXISTENCIA DE COMPONENTES", ""},
-              {"     Aviso: no se han definido componentes", "SinCmp"},
-              {"", ""},
-              {"COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES", ""},
-              {"** nivel de componentes **", ""},
-              {kSin, ""},
-              {"** nivel de opciones **", ""},
-              {kSin, ""},
-              {"", ""},
-              {"COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS", ""},
-              {"     Error: no se ha definido arbol de requerimientos", "SinReq"},
-              {"", ""}},
-             SeccionesArbolSinHallazgos());
+    const std::string esperado = Esperado(R"(
+AVISOS TOTALES: 2
+ERRORES TOTALES: 1
+
+COMPROBACION DEL CICLO DE VIDA
+     Aviso: no se han definido etapas del ciclo de vida | SinEta
+
+COMPROBACION DE EXISTENCIA DE COMPONENTES
+     Aviso: no se han definido componentes | SinCmp
+
+COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES
+** nivel de componentes **
+     <sin errores>
+** nivel de opciones **
+     <sin errores>
+
+COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS
+     Error: no se ha definido arbol de requerimientos | SinReq
+
+)") + Esperado(kArbolSinHallazgos);
     Modelo nuevo;
     InicializarModelo(nuevo);
     Modelo ceros;
     ceros.NumRequerimientos = ceros.NumComponentes = ceros.NumEtapas = 0;
     for (const Modelo& modelo : {Modelo(), nuevo, ceros}) {
         const InformeErrores informe = ComprobarModelo(modelo);
-        EXPECT_EQ(TextoInforme(informe, true), Texto(esperado));
+        EXPECT_EQ(TextoInforme(informe, true), esperado);
         EXPECT_EQ(informe.Errores(), 1);
         EXPECT_EQ(informe.Avisos(), 2);
         EXPECT_EQ(Desenlace(informe), DesenlaceCompilacion::Incorrecta);
@@ -98,28 +90,28 @@ TEST(Compilacion, AnEmptyModelWarnsOfStagesAndComponentsAndLacksItsTree) {
 }
 
 TEST(Compilacion, ASoundModelHasNothingToSay) {
-    const std::vector<pruebas::LineaEsperada> esperado =
-        Unir({{"AVISOS TOTALES: 0", ""},
-              {"ERRORES TOTALES: 0", ""},
-              {"", ""},
-              {"COMPROBACION DEL CICLO DE VIDA", ""},
-              {kSin, ""},
-              {"", ""},
-              {"COMPROBACION DE EXISTENCIA DE COMPONENTES", ""},
-              {kSin, ""},
-              {"", ""},
-              {"COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES", ""},
-              {"** nivel de componentes **", ""},
-              {kSin, ""},
-              {"** nivel de opciones **", ""},
-              {kSin, ""},
-              {"", ""},
-              {"COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS", ""},
-              {kSin, ""},
-              {"", ""}},
-             SeccionesArbolSinHallazgos());
+    const std::string esperado = Esperado(R"(
+AVISOS TOTALES: 0
+ERRORES TOTALES: 0
+
+COMPROBACION DEL CICLO DE VIDA
+     <sin errores>
+
+COMPROBACION DE EXISTENCIA DE COMPONENTES
+     <sin errores>
+
+COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES
+** nivel de componentes **
+     <sin errores>
+** nivel de opciones **
+     <sin errores>
+
+COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS
+     <sin errores>
+
+)") + Esperado(kArbolSinHallazgos);
     const InformeErrores informe = ComprobarModelo(pruebas::ModeloCorrecto());
-    EXPECT_EQ(TextoInforme(informe, true), Texto(esperado));
+    EXPECT_EQ(TextoInforme(informe, true), esperado);
     EXPECT_EQ(Desenlace(informe), DesenlaceCompilacion::Correcta);
 }
 
@@ -133,77 +125,73 @@ TEST(Compilacion, AModelOfSingleChildrenWithoutWeightsOrFunctions) {
                            {pruebas::Subcriterio("Turbidez", {pruebas::Indicador("NTU", {})})})})});
     modelo.Requerimientos(1).Criterios(1).Subcriterios(1).Indicadores(1).Peso = "";
     modelo.Requerimientos(1).Criterios(1).Subcriterios(1).PesoAuxiliar = 0.5;
-    const std::vector<pruebas::LineaEsperada> esperado = {
-        {"AVISOS TOTALES: 4", ""},
-        {"ERRORES TOTALES: 3", ""},
-        {"", ""},
-        {"COMPROBACION DEL CICLO DE VIDA", ""},
-        {kSin, ""},
-        {"", ""},
-        {"COMPROBACION DE EXISTENCIA DE COMPONENTES", ""},
-        {kSin, ""},
-        {"", ""},
-        {"COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES", ""},
-        {"** nivel de componentes **", ""},
-        {kSin, ""},
-        {"** nivel de opciones **", ""},
-        {kSin, ""},
-        {"", ""},
-        {"COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS", ""},
-        {kSin, ""},
-        {"", ""},
-        {"COMPROBACION DE REPETICION DE NOMBRES EN REQUERIMIENTOS", ""},
-        {"** nivel de requerimientos **", ""},
-        {kSin, ""},
-        {"** nivel de criterios **", ""},
-        {kSin, ""},
-        {"** nivel de subcriterios **", ""},
-        {kSin, ""},
-        {"** nivel de indicadores **", ""},
-        {kSin, ""},
-        {"", ""},
-        {"COMPROBACION DE PESOS NULOS", ""},
-        {"** nivel de requerimientos **", ""},
-        {kSin, ""},
-        {"** nivel de criterios **", ""},
-        {kSin, ""},
-        {"** nivel de subcriterios **", ""},
-        {kSin, ""},
-        {"** nivel de indicadores **", ""},
-        {"     Error: el nodo I1S1C1R1 tiene peso nulo", "PesNul I1S1C1R1"},
-        {"", ""},
-        {"COMPROBACION DE MATRICES NO CONSISTENTES", ""},
-        {"** nivel de requerimientos **", ""},
-        {kSin, ""},
-        {"** nivel de criterios **", ""},
-        {kSin, ""},
-        {"** nivel de subcriterios **", ""},
-        {"     Aviso: la matriz de subcriterios del criterio C1R1 no es consistente "
-         "(consistencia > 0.1)",
-         "NoCons SC1R1"},
-        {kSin, ""},
-        {"** nivel de indicadores **", ""},
-        {"     Error: la matriz de pesos de los indicadores del subcriterio S1C1R1 está vacía, "
-         ", 1",
-         "NoCons I0S1C1R1"},
-        {"", ""},
-        {"COMPROBACION DE FUNCIONES DE VALOR", ""},
-        {"** nivel de indicadores **", ""},
-        {"     Error: el nodo I1S1C1R1 no tiene funcion de valor asignada", "FunVal I1S1C1R1"},
-        {"", ""},
-        {"COMPROBACION DE RAMAS INCOMPLETAS", ""},
-        {"** nivel de requerimientos **", ""},
-        {"     Aviso: el nodo R1 solo tiene un criterio", "SinHij R1"},
-        {kSin, ""},
-        {"** nivel de criterios **", ""},
-        {"     Aviso: el nodo C1R1 solo tiene un subcriterio", "SinHij C1R1"},
-        {kSin, ""},
-        {"** nivel de subcriterios **", ""},
-        {"     Aviso: el nodo S1C1R1 solo tiene un indicador", "SinHij S1C1R1"},
-        {kSin, ""},
-        {"", ""}};
-    const InformeErrores informe = ComprobarModelo(modelo);
-    EXPECT_EQ(TextoInforme(informe, true), Texto(esperado));
+    const std::string esperado = Esperado(R"(
+AVISOS TOTALES: 4
+ERRORES TOTALES: 3
+
+COMPROBACION DEL CICLO DE VIDA
+     <sin errores>
+
+COMPROBACION DE EXISTENCIA DE COMPONENTES
+     <sin errores>
+
+COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES
+** nivel de componentes **
+     <sin errores>
+** nivel de opciones **
+     <sin errores>
+
+COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS
+     <sin errores>
+
+COMPROBACION DE REPETICION DE NOMBRES EN REQUERIMIENTOS
+** nivel de requerimientos **
+     <sin errores>
+** nivel de criterios **
+     <sin errores>
+** nivel de subcriterios **
+     <sin errores>
+** nivel de indicadores **
+     <sin errores>
+
+COMPROBACION DE PESOS NULOS
+** nivel de requerimientos **
+     <sin errores>
+** nivel de criterios **
+     <sin errores>
+** nivel de subcriterios **
+     <sin errores>
+** nivel de indicadores **
+     Error: el nodo I1S1C1R1 tiene peso nulo | PesNul I1S1C1R1
+
+COMPROBACION DE MATRICES NO CONSISTENTES
+** nivel de requerimientos **
+     <sin errores>
+** nivel de criterios **
+     <sin errores>
+** nivel de subcriterios **
+     Aviso: la matriz de subcriterios del criterio C1R1 no es consistente (consistencia > 0.1) | NoCons SC1R1
+     <sin errores>
+** nivel de indicadores **
+     Error: la matriz de pesos de los indicadores del subcriterio S1C1R1 está vacía, , 1 | NoCons I0S1C1R1
+
+COMPROBACION DE FUNCIONES DE VALOR
+** nivel de indicadores **
+     Error: el nodo I1S1C1R1 no tiene funcion de valor asignada | FunVal I1S1C1R1
+
+COMPROBACION DE RAMAS INCOMPLETAS
+** nivel de requerimientos **
+     Aviso: el nodo R1 solo tiene un criterio | SinHij R1
+     <sin errores>
+** nivel de criterios **
+     Aviso: el nodo C1R1 solo tiene un subcriterio | SinHij C1R1
+     <sin errores>
+** nivel de subcriterios **
+     Aviso: el nodo S1C1R1 solo tiene un indicador | SinHij S1C1R1
+     <sin errores>
+
+)");
+    EXPECT_EQ(TextoInforme(ComprobarModelo(modelo), true), esperado);
 }
 
 TEST(Compilacion, ErrorAndWarningLinesBearTheirIconsAndNoOtherLineDoes) {

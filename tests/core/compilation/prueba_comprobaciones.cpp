@@ -12,14 +12,10 @@ namespace vadro {
 namespace {
 
 using pruebas::Criterio;
+using pruebas::Esperado;
 using pruebas::Indicador;
-using pruebas::LineaEsperada;
 using pruebas::Requerimiento;
 using pruebas::Subcriterio;
-using pruebas::Texto;
-
-const LineaEsperada kSin = {"     <sin errores>", ""};
-const LineaEsperada kBlanco = {"", ""};
 
 using Comprobacion = std::function<void(const Modelo&, InformeErrores&)>;
 
@@ -33,35 +29,32 @@ TEST(ComprobacionesDeCuenta, AnEmptyZeroOrNegativeCountIsAFindingInsteadOfTheAll
     struct Caso {
         Comprobacion comprobacion;
         ValorLibre Modelo::*cuenta;
-        LineaEsperada encabezado;
-        LineaEsperada hallazgo;
+        std::string encabezado;
+        std::string hallazgo;
     };
     const std::vector<Caso> casos = {
-        {ComprobarExistenciaEtapas,
-         &Modelo::NumEtapas,
-         {"COMPROBACION DEL CICLO DE VIDA", ""},
-         {"     Aviso: no se han definido etapas del ciclo de vida", "SinEta"}},
-        {ComprobarExistenciaComponentes,
-         &Modelo::NumComponentes,
-         {"COMPROBACION DE EXISTENCIA DE COMPONENTES", ""},
-         {"     Aviso: no se han definido componentes", "SinCmp"}},
-        {ComprobarExistenciaRequerimientos,
-         &Modelo::NumRequerimientos,
-         {"COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS", ""},
-         {"     Error: no se ha definido arbol de requerimientos", "SinReq"}}};
+        {ComprobarExistenciaEtapas, &Modelo::NumEtapas, "COMPROBACION DEL CICLO DE VIDA",
+         "     Aviso: no se han definido etapas del ciclo de vida | SinEta"},
+        {ComprobarExistenciaComponentes, &Modelo::NumComponentes,
+         "COMPROBACION DE EXISTENCIA DE COMPONENTES",
+         "     Aviso: no se han definido componentes | SinCmp"},
+        {ComprobarExistenciaRequerimientos, &Modelo::NumRequerimientos,
+         "COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS",
+         "     Error: no se ha definido arbol de requerimientos | SinReq"}};
     for (const Caso& caso : casos) {
         for (const ValorLibre& cuenta :
              {ValorLibre(), ValorLibre(0), ValorLibre(-1), ValorLibre("0")}) {
             Modelo modelo;
             modelo.*caso.cuenta = cuenta;
             EXPECT_EQ(Seccion(caso.comprobacion, modelo),
-                      Texto({caso.encabezado, caso.hallazgo, kBlanco}))
+                      Esperado(caso.encabezado + "\n" + caso.hallazgo + "\n\n"))
                 << cuenta.Texto();
         }
         for (const ValorLibre& cuenta : {ValorLibre(1), ValorLibre(" 2 ")}) {
             Modelo modelo;
             modelo.*caso.cuenta = cuenta;
-            EXPECT_EQ(Seccion(caso.comprobacion, modelo), Texto({caso.encabezado, kSin, kBlanco}));
+            EXPECT_EQ(Seccion(caso.comprobacion, modelo),
+                      Esperado(caso.encabezado + "\n     <sin errores>\n\n"));
         }
     }
 }
@@ -88,19 +81,18 @@ TEST(NombresRepetidos, ComponentsAndTheOptionsOfOneComponentPairUpWhateverTheirC
     for (int k = 1; k <= 5; ++k) {
         modelo.Componentes(k) = componentes[static_cast<std::size_t>(k) - 1];
     }
-    EXPECT_EQ(
-        Seccion(ComprobarNombresRepetidosComponentes, modelo),
-        Texto(
-            {{"COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES", ""},
-             {"** nivel de componentes **", ""},
-             {"     Error: los nodos C1 y C3 tienen el mismo nombre (Bomba)", "CmpRep Co3"},
-             {"     Error: los nodos C1 y C5 tienen el mismo nombre (Bomba)", "CmpRep Co5"},
-             {"     Error: los nodos C2 y C4 tienen el mismo nombre (Válvula)", "CmpRep Co4"},
-             {"     Error: los nodos C3 y C5 tienen el mismo nombre (BOMBA)", "CmpRep Co5"},
-             {"** nivel de opciones **", ""},
-             {"     Error: los nodos O1C1 y O2C1 tienen el mismo nombre (Eje)", "CmpRep Op2Co1"},
-             {"     Error: los nodos O1C5 y O3C5 tienen el mismo nombre (Junta)", "CmpRep Op3Co5"},
-             kBlanco}));
+    EXPECT_EQ(Seccion(ComprobarNombresRepetidosComponentes, modelo), Esperado(R"(
+COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES
+** nivel de componentes **
+     Error: los nodos C1 y C3 tienen el mismo nombre (Bomba) | CmpRep Co3
+     Error: los nodos C1 y C5 tienen el mismo nombre (Bomba) | CmpRep Co5
+     Error: los nodos C2 y C4 tienen el mismo nombre (Válvula) | CmpRep Co4
+     Error: los nodos C3 y C5 tienen el mismo nombre (BOMBA) | CmpRep Co5
+** nivel de opciones **
+     Error: los nodos O1C1 y O2C1 tienen el mismo nombre (Eje) | CmpRep Op2Co1
+     Error: los nodos O1C5 y O3C5 tienen el mismo nombre (Junta) | CmpRep Op3Co5
+
+)"));
 }
 
 // Requirements "Agua", "AGUA", "agua"; under R1 two criteria of one name, the first with two
@@ -119,24 +111,22 @@ Modelo ModeloNombresRepetidos() {
 }
 
 TEST(NombresRepetidos, SiblingsPairUpAtEveryLevelAndTheKeyNamesTheSecondOfThePair) {
-    EXPECT_EQ(
-        Seccion(ComprobarNombresRepetidosRequerimientos, ModeloNombresRepetidos()),
-        Texto(
-            {{"COMPROBACION DE REPETICION DE NOMBRES EN REQUERIMIENTOS", ""},
-             {"** nivel de requerimientos **", ""},
-             {"     Error: los nodos R1 y R2 tienen el mismo nombre (Agua)", "ReqRep R2"},
-             {"     Error: los nodos R1 y R3 tienen el mismo nombre (Agua)", "ReqRep R3"},
-             {"     Error: los nodos R2 y R3 tienen el mismo nombre (AGUA)", "ReqRep R3"},
-             {"** nivel de criterios **", ""},
-             {"     Error: los nodos C1R1 y C2R1 tienen el mismo nombre (Calidad)", "ReqRep C2R1"},
-             {"** nivel de subcriterios **", ""},
-             {"     Error: los nodos S1C1R1 y S2C1R1 tienen el mismo nombre (Turbidez)",
-              "ReqRep S2C1R1"},
-             {"** nivel de indicadores **", ""},
-             {"     Error: los nodos I1S1C1R1 y I2S1C1R1 tienen el mismo nombre: NTU",
-              "ReqRep I2S1C1R1"},
-             {"     Error: los nodos I1C1R1 y I2C1R1 tienen el mismo nombre (pH)", "ReqRep I2C1R1"},
-             kBlanco}));
+    EXPECT_EQ(Seccion(ComprobarNombresRepetidosRequerimientos, ModeloNombresRepetidos()),
+              Esperado(R"(
+COMPROBACION DE REPETICION DE NOMBRES EN REQUERIMIENTOS
+** nivel de requerimientos **
+     Error: los nodos R1 y R2 tienen el mismo nombre (Agua) | ReqRep R2
+     Error: los nodos R1 y R3 tienen el mismo nombre (Agua) | ReqRep R3
+     Error: los nodos R2 y R3 tienen el mismo nombre (AGUA) | ReqRep R3
+** nivel de criterios **
+     Error: los nodos C1R1 y C2R1 tienen el mismo nombre (Calidad) | ReqRep C2R1
+** nivel de subcriterios **
+     Error: los nodos S1C1R1 y S2C1R1 tienen el mismo nombre (Turbidez) | ReqRep S2C1R1
+** nivel de indicadores **
+     Error: los nodos I1S1C1R1 y I2S1C1R1 tienen el mismo nombre: NTU | ReqRep I2S1C1R1
+     Error: los nodos I1C1R1 y I2C1R1 tienen el mismo nombre (pH) | ReqRep I2C1R1
+
+)"));
 }
 
 TEST(NombresRepetidos, WithoutTheSubcriteriaLevelTheirIndicatorsAreStillCompared) {
@@ -172,27 +162,31 @@ TEST(PesosNulos, AnEmptyWeightIsAnErrorAtEveryLevelAndAZeroWeightPasses) {
     criterio.Subcriterios(1).Indicadores(1).Peso = "";
     criterio.Subcriterios(1).Indicadores(2).Peso = 0.0;
     criterio.Indicadores(1).Peso = "";
-    const std::vector<LineaEsperada> indicadores = {
-        {"** nivel de indicadores **", ""},
-        {"     Error: el nodo I1S1C1R1 tiene peso nulo", "PesNul I1S1C1R1"},
-        {"     Error: el nodo I1C1R1 tiene peso nulo", "PesNul I1C1R1"},
-        kBlanco};
-    const std::vector<LineaEsperada> hastaCriterios = {
-        {"COMPROBACION DE PESOS NULOS", ""},
-        {"** nivel de requerimientos **", ""},
-        {"     Error: el nodo R2 tiene peso nulo", "PesNul R2"},
-        {"** nivel de criterios **", ""},
-        {"     Error: el nodo C1R1 tiene peso nulo", "PesNul C1R1"}};
-    std::vector<LineaEsperada> conSubcriterios = hastaCriterios;
-    conSubcriterios.push_back({"** nivel de subcriterios **", ""});
-    conSubcriterios.push_back({"     Error: el nodo S1C1R1 tiene peso nulo", "PesNul S1C1R1"});
-    conSubcriterios.insert(conSubcriterios.end(), indicadores.begin(), indicadores.end());
-    EXPECT_EQ(Seccion(ComprobarPesosNulos, modelo), Texto(conSubcriterios));
+    EXPECT_EQ(Seccion(ComprobarPesosNulos, modelo), Esperado(R"(
+COMPROBACION DE PESOS NULOS
+** nivel de requerimientos **
+     Error: el nodo R2 tiene peso nulo | PesNul R2
+** nivel de criterios **
+     Error: el nodo C1R1 tiene peso nulo | PesNul C1R1
+** nivel de subcriterios **
+     Error: el nodo S1C1R1 tiene peso nulo | PesNul S1C1R1
+** nivel de indicadores **
+     Error: el nodo I1S1C1R1 tiene peso nulo | PesNul I1S1C1R1
+     Error: el nodo I1C1R1 tiene peso nulo | PesNul I1C1R1
 
+)"));
     modelo.ConSubcriterios = false;
-    std::vector<LineaEsperada> sinSubcriterios = hastaCriterios;
-    sinSubcriterios.insert(sinSubcriterios.end(), indicadores.begin(), indicadores.end());
-    EXPECT_EQ(Seccion(ComprobarPesosNulos, modelo), Texto(sinSubcriterios));
+    EXPECT_EQ(Seccion(ComprobarPesosNulos, modelo), Esperado(R"(
+COMPROBACION DE PESOS NULOS
+** nivel de requerimientos **
+     Error: el nodo R2 tiene peso nulo | PesNul R2
+** nivel de criterios **
+     Error: el nodo C1R1 tiene peso nulo | PesNul C1R1
+** nivel de indicadores **
+     Error: el nodo I1S1C1R1 tiene peso nulo | PesNul I1S1C1R1
+     Error: el nodo I1C1R1 tiene peso nulo | PesNul I1C1R1
+
+)"));
 }
 
 // Only the first node of a set is looked at: the set's values are alike on all of them.
@@ -217,29 +211,23 @@ TEST(Consistencia, EmptyMatricesAreErrorsAndInconsistentPairwiseOnesWarnings) {
     c1r2.Subcriterios(1).Indicadores(1).PesoAuxiliar = 0.3;
     c1r2.Indicadores(1).PesoAuxiliar = 0.1000001;
     c1r2.Indicadores(2).Peso = "";
-    const std::string noEs = " no es consistente (consistencia > 0.1)";
-    EXPECT_EQ(
-        Seccion(ComprobarConsistencia, modelo),
-        Texto({{"COMPROBACION DE MATRICES NO CONSISTENTES", ""},
-               {"** nivel de requerimientos **", ""},
-               {"     Error: la matriz de pesos de los requerimientos está vacía", "NoCons R"},
-               {"** nivel de criterios **", ""},
-               {"     Aviso: la matriz de criterios del requerimiento R1" + noEs, "NoCons CR1"},
-               kSin,
-               {"** nivel de subcriterios **", ""},
-               {"     Error: la matriz pesos de los subcriterios del criterio C1R1 está vacía",
-                "NoCons SC1R1"},
-               {"     Aviso: la matriz de subcriterios del criterio C1R2" + noEs, "NoCons SC1R2"},
-               {"** nivel de indicadores **", ""},
-               {"     Error: la matriz de pesos de los indicadores del subcriterio S1C1R1 está "
-                "vacía, , 1",
-                "NoCons I0S1C1R1"},
-               {"     Error: la matriz de pesos de los indicadores del criterio C1R1 está vacía",
-                "NoCons I0C1R1"},
-               {"     Aviso: la matriz de indicadores del subcriterio S1C1R2" + noEs,
-                "NoCons I0S1C1R2"},
-               {"     Aviso: la matriz de indicadores del criterio C1R2" + noEs, "NoCons I0C1R2"},
-               kBlanco}));
+    EXPECT_EQ(Seccion(ComprobarConsistencia, modelo), Esperado(R"(
+COMPROBACION DE MATRICES NO CONSISTENTES
+** nivel de requerimientos **
+     Error: la matriz de pesos de los requerimientos está vacía | NoCons R
+** nivel de criterios **
+     Aviso: la matriz de criterios del requerimiento R1 no es consistente (consistencia > 0.1) | NoCons CR1
+     <sin errores>
+** nivel de subcriterios **
+     Error: la matriz pesos de los subcriterios del criterio C1R1 está vacía | NoCons SC1R1
+     Aviso: la matriz de subcriterios del criterio C1R2 no es consistente (consistencia > 0.1) | NoCons SC1R2
+** nivel de indicadores **
+     Error: la matriz de pesos de los indicadores del subcriterio S1C1R1 está vacía, , 1 | NoCons I0S1C1R1
+     Error: la matriz de pesos de los indicadores del criterio C1R1 está vacía | NoCons I0C1R1
+     Aviso: la matriz de indicadores del subcriterio S1C1R2 no es consistente (consistencia > 0.1) | NoCons I0S1C1R2
+     Aviso: la matriz de indicadores del criterio C1R2 no es consistente (consistencia > 0.1) | NoCons I0C1R2
+
+)"));
 }
 
 TEST(Consistencia, ARatioOverTheThresholdWarnsOnlyInPairwiseModeAndAnUnknownRatioPasses) {
@@ -248,18 +236,17 @@ TEST(Consistencia, ARatioOverTheThresholdWarnsOnlyInPairwiseModeAndAnUnknownRati
     modelo.Requerimientos(1).Criterios(1).PesoAuxiliar = "";
     modelo.Requerimientos(2).Criterios(1).Calculo = CalculoDirecto;
     modelo.Requerimientos(2).Criterios(1).PesoAuxiliar = 0.9;
-    EXPECT_EQ(Seccion(ComprobarConsistencia, modelo),
-              Texto({{"COMPROBACION DE MATRICES NO CONSISTENTES", ""},
-                     {"** nivel de requerimientos **", ""},
-                     {"     Aviso: la matriz de requerimientos no es consistente (consistencia > "
-                      "0.1)",
-                      "NoCons R"},
-                     kSin,
-                     {"** nivel de criterios **", ""},
-                     kSin,
-                     {"** nivel de indicadores **", ""},
-                     kSin,
-                     kBlanco}));
+    EXPECT_EQ(Seccion(ComprobarConsistencia, modelo), Esperado(R"(
+COMPROBACION DE MATRICES NO CONSISTENTES
+** nivel de requerimientos **
+     Aviso: la matriz de requerimientos no es consistente (consistencia > 0.1) | NoCons R
+     <sin errores>
+** nivel de criterios **
+     <sin errores>
+** nivel de indicadores **
+     <sin errores>
+
+)"));
 }
 
 // ---- value functions
@@ -393,14 +380,14 @@ TEST(FuncionesDeValor, TheSectionLabelsIndicatorsOfSubcriteriaFirstAndWarnsOfNot
         {Requerimiento("A", {Criterio("C", {Indicador("i", escalones), Indicador("j", optativos)},
                                       {Subcriterio("S", {Indicador("i", {})})})})});
     modelo.ConSubcriterios = false;
-    EXPECT_EQ(Seccion(ComprobarFuncionValor, modelo),
-              Texto({{"COMPROBACION DE FUNCIONES DE VALOR", ""},
-                     {"** nivel de indicadores **", ""},
-                     {"     Error: el nodo I1S1C1R1 no tiene funcion de valor asignada",
-                      "FunVal I1S1C1R1"},
-                     {"     Error: el nodo I1C1R1" + kMinimo, "FunVal I1C1R1"},
-                     {"     Error: el nodo I1C1R1" + kMaximo, "FunVal I1C1R1"},
-                     kBlanco}));
+    EXPECT_EQ(Seccion(ComprobarFuncionValor, modelo), Esperado(R"(
+COMPROBACION DE FUNCIONES DE VALOR
+** nivel de indicadores **
+     Error: el nodo I1S1C1R1 no tiene funcion de valor asignada | FunVal I1S1C1R1
+     Error: el nodo I1C1R1 tiene una funcion de valor de tipo escalón con el mínimo diferente de 0 | FunVal I1C1R1
+     Error: el nodo I1C1R1 tiene una funcion de valor de tipo escalón con el máximo diferente de 1 | FunVal I1C1R1
+
+)"));
 }
 
 // ---- incomplete branches
@@ -421,20 +408,20 @@ Modelo ModeloRamas() {
 }
 
 TEST(RamasIncompletas, ChildlessNodesAreErrorsAndOnlyChildrenWarnings) {
-    EXPECT_EQ(
-        Seccion(ComprobarArbolIncompleto, ModeloRamas()),
-        Texto({{"COMPROBACION DE RAMAS INCOMPLETAS", ""},
-               {"** nivel de requerimientos **", ""},
-               {"     Error: el nodo R1 no tiene criterios", "SinHij R1"},
-               {"     Aviso: el nodo R2 solo tiene un criterio", "SinHij R2"},
-               {"** nivel de criterios **", ""},
-               {"     Error: el nodo C1R2 no tiene subcriterios ni indicadores", "SinHij C1R2"},
-               {"     Aviso: el nodo C1R3 solo tiene un subcriterio", "SinHij C1R3"},
-               {"     Aviso: el nodo C2R3 solo tiene un indicador", "SinHij C2R3"},
-               {"** nivel de subcriterios **", ""},
-               {"     Error: el nodo S1C3R3 no tiene indicadores", "SinHij S1C3R3"},
-               {"     Aviso: el nodo S2C3R3 solo tiene un indicador", "SinHij S2C3R3"},
-               kBlanco}));
+    EXPECT_EQ(Seccion(ComprobarArbolIncompleto, ModeloRamas()), Esperado(R"(
+COMPROBACION DE RAMAS INCOMPLETAS
+** nivel de requerimientos **
+     Error: el nodo R1 no tiene criterios | SinHij R1
+     Aviso: el nodo R2 solo tiene un criterio | SinHij R2
+** nivel de criterios **
+     Error: el nodo C1R2 no tiene subcriterios ni indicadores | SinHij C1R2
+     Aviso: el nodo C1R3 solo tiene un subcriterio | SinHij C1R3
+     Aviso: el nodo C2R3 solo tiene un indicador | SinHij C2R3
+** nivel de subcriterios **
+     Error: el nodo S1C3R3 no tiene indicadores | SinHij S1C3R3
+     Aviso: el nodo S2C3R3 solo tiene un indicador | SinHij S2C3R3
+
+)"));
 }
 
 TEST(RamasIncompletas, AModelWithoutTheSubcriteriaLevelSpeaksOfIndicatorsOnly) {
