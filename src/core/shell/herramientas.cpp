@@ -1,9 +1,13 @@
 #include "core/shell/herramientas.h"
 
+#include "core/compilation/compilacion.h"
+#include "core/compilation/informe_errores.h"
 #include "core/core/archivos.h"
 #include "core/core/codigo_pagina.h"
 #include "core/core/error_ejecucion.h"
 #include "core/core/formato_numero.h"
+#include "core/core/version.h"
+#include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
 #include "core/weighting/calculo_pesos.h"
 
@@ -17,6 +21,7 @@ namespace vadro {
 namespace {
 
 constexpr int kCorrecto = 0;
+constexpr int kConErrores = 1;
 constexpr int kFallo = 2;
 
 const char* const kAyuda =
@@ -28,6 +33,12 @@ const char* const kAyuda =
     "  texto ARCHIVO            Muestra el texto plano (UTF-8) de un modelo, plantilla o\n"
     "                           modelo compilado, esté codificado o no.\n"
     "  proteger PLANO DESTINO   Escribe en DESTINO la forma codificada de un texto plano.\n"
+    "  comprobar MODELO [--claves]\n"
+    "                           Comprueba un modelo y muestra el informe de compilación tal\n"
+    "                           como lo muestra el programador; con --claves, cada línea\n"
+    "                           lleva su clave tras un tabulador.\n"
+    "  compilar MODELO DESTINO  Escribe el modelo compilado (.vdc) si la comprobación no\n"
+    "                           encuentra errores; si los encuentra, muestra el informe.\n"
     "  pesos                    Lee de la entrada estándar una matriz de comparación por\n"
     "                           pares, una fila por línea, celdas separadas por blancos y\n"
     "                           \"-\" para una celda vacía (se admiten fracciones como 1/3);\n"
@@ -100,6 +111,48 @@ int Proteger(const std::vector<std::string>& args) {
     } catch (const ErrorEjecucion& e) {
         throw ErrorUso{"No se puede escribir " + args[2] + ": " + e.Descripcion()};
     }
+    return kCorrecto;
+}
+
+Modelo CargarOFallar(const std::string& ruta) {
+    Modelo modelo;
+    try {
+        CargarModelo(modelo, ruta);
+    } catch (const ErrorEjecucion& e) {
+        throw ErrorUso{"No se puede leer el modelo " + ruta + ": error " +
+                       std::to_string(e.Numero()) + ", " + e.Descripcion()};
+    }
+    modelo.Archivo = ruta;
+    return modelo;
+}
+
+int Comprobar(const std::vector<std::string>& args, std::ostream& salida) {
+    const bool conClaves = args.size() == 3 && args[2] == "--claves";
+    if (args.size() != 2 && !conClaves) {
+        throw ErrorUso{"La orden comprobar necesita un MODELO y, si acaso, --claves."};
+    }
+    const InformeErrores informe = ComprobarModelo(CargarOFallar(args[1]));
+    salida << TextoInforme(informe, conClaves);
+    return PermiteCompilado(Desenlace(informe)) ? kCorrecto : kConErrores;
+}
+
+int Compilar(const std::vector<std::string>& args, std::ostream& salida) {
+    if (args.size() != 3) {
+        throw ErrorUso{"La orden compilar necesita un MODELO y un DESTINO."};
+    }
+    Modelo modelo = CargarOFallar(args[1]);
+    const InformeErrores informe = ComprobarModelo(modelo);
+    if (!PermiteCompilado(Desenlace(informe))) {
+        salida << TextoInforme(informe, false);
+        return kConErrores;
+    }
+    // As the designer writes it: the same text, with the program's version in the header.
+    modelo.ArchivoCompilado = args[2];
+    modelo.Aplicacion = VersionPrograma();
+    if (!GuardarModelo(modelo, args[2], false)) {
+        return kFallo;
+    }
+    salida << "Se ha creado el archivo compilado " << args[2] << '\n';
     return kCorrecto;
 }
 
@@ -182,6 +235,12 @@ int EjecutarHerramientas(const std::vector<std::string>& argumentos, std::istrea
         }
         if (orden == "proteger") {
             return Proteger(argumentos);
+        }
+        if (orden == "comprobar") {
+            return Comprobar(argumentos, salida);
+        }
+        if (orden == "compilar") {
+            return Compilar(argumentos, salida);
         }
         if (orden == "pesos") {
             return Pesos(argumentos, entrada, salida);
