@@ -230,26 +230,19 @@ void EdicionRequerimientos::AñadirIndicador(const std::string& texto) {
     ActualizarCombos(nuevo);
 }
 
-void EdicionRequerimientos::InsertarAntes() {
-    SubirContadorClaves();
-    NodoActual = tvwArbol.Seleccionado();
-    if (NodoActual == nullptr) {
-        return;
-    }
-    const int nivel = NivelNodo(NodoActual);
-    CrearNodoEdicion(
-        AñadirNodo(NodoActual, Relacion::Anterior, nivel, TextoNivel(nivel, sesion_.modelo)));
-}
+void EdicionRequerimientos::InsertarAntes() { InsertarJunto(Relacion::Anterior); }
 
-void EdicionRequerimientos::InsertarDespues() {
+void EdicionRequerimientos::InsertarDespues() { InsertarJunto(Relacion::Siguiente); }
+
+// A default node of the selected node's level, beside it.
+void EdicionRequerimientos::InsertarJunto(Relacion lado) {
     SubirContadorClaves();
     NodoActual = tvwArbol.Seleccionado();
     if (NodoActual == nullptr) {
         return;
     }
     const int nivel = NivelNodo(NodoActual);
-    CrearNodoEdicion(
-        AñadirNodo(NodoActual, Relacion::Siguiente, nivel, TextoNivel(nivel, sesion_.modelo)));
+    CrearNodoEdicion(AñadirNodo(NodoActual, lado, nivel, TextoNivel(nivel, sesion_.modelo)));
 }
 
 // ---- removal ----

@@ -148,6 +148,7 @@ public:
     std::optional<std::string> ClicFuncion();
 
 private:
+    void InsertarJunto(Relacion lado);
     void AntesDeQuitar(const NodoArbol* nodo) override;
     void AntesDeVaciar() override;
 
