@@ -52,7 +52,7 @@ std::string ResolverDirectorioPrograma(const std::string& carpetaEjecutable) {
     if (EsEscribible(carpetaEjecutable)) {
         return NormalizarRuta(carpetaEjecutable);
     }
-    const std::string datos = CarpetaDatosUsuario();
+    std::string datos = CarpetaDatosUsuario();
     std::error_code ec;
     fs::create_directories(fs::path(std::u8string(datos.begin(), datos.end())), ec);
     return datos;

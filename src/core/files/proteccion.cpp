@@ -131,7 +131,7 @@ std::vector<std::string> LineasPlanas(std::string_view bytes) {
 }
 
 std::string RecuperarArchivo(const std::string& ruta) {
-    const std::string temporal = RutaTemporal(ruta);
+    std::string temporal = RutaTemporal(ruta);
     EscribirArchivo(temporal, TextoPlano(LeerArchivo(ruta)));
     return temporal;
 }

@@ -190,7 +190,7 @@ void ConfirmarBloque(const ArchivoSalida& salida, const std::string& ruta, bool 
 // symbol gives `signoVacio`.
 ValorLibre LeerIntervalo(LecturaSeccion& l, const std::string& claveNumero,
                          const std::string& claveSigno, const char* signoVacio) {
-    const ValorLibre numero = LeerEscalado(l.Buscar(claveNumero));
+    ValorLibre numero = LeerEscalado(l.Buscar(claveNumero));
     if (numero.EsVacio()) {
         return numero;
     }

@@ -311,7 +311,8 @@ NodoArbol* CopiarRama(const NodoArbol& nodo, Arbol& destino, NodoArbol* padre,
         }
     }
     destino.AsegurarVisible(copia);
-    const std::vector<NodoArbol*> hijos = nodo.Hijos(); // the copy may land in the same tree
+    // A copy of the list: the copy of the branch may land in the same tree, under this node.
+    const std::vector<NodoArbol*> hijos = nodo.Hijos(); // NOLINT(performance-unnecessary-copy-initialization)
     for (const NodoArbol* hijo : hijos) {
         CopiarRama(*hijo, destino, copia, nuevaClave, imagen);
     }
