@@ -1,6 +1,7 @@
 #include "soporte/prueba_sesion.h"
 
 #include "core/core/archivos.h"
+#include "core/files/modelo_archivo.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -51,6 +52,12 @@ std::string PruebaSesion::Contenido(const std::string& ruta) {
 void PruebaSesion::Escribir(const std::string& ruta, const std::string& bytes) {
     std::ofstream salida(ruta, std::ios::binary | std::ios::trunc);
     salida << bytes;
+}
+
+std::string PruebaSesion::NombreGuardadoEn(const std::string& ruta) {
+    Modelo leido;
+    CargarModelo(leido, ruta);
+    return leido.Nombre;
 }
 
 } // namespace vadro::pruebas

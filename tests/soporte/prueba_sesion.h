@@ -23,6 +23,8 @@ protected:
     // The bytes of a file; empty when missing.
     static std::string Contenido(const std::string& ruta);
     static void Escribir(const std::string& ruta, const std::string& bytes);
+    // The name stored in a model file, read back through the file layer.
+    static std::string NombreGuardadoEn(const std::string& ruta);
 
     GuionMensajes mensajes;
 

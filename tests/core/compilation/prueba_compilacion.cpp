@@ -2,8 +2,8 @@
 
 #include "core/compilation/compilacion.h"
 #include "core/shell/comandos_modelo.h"
-#include "modelo_prueba.h"
 #include "soporte/errores.h"
+#include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -15,6 +15,25 @@ namespace vadro {
 namespace {
 
 using pruebas::Esperado;
+
+// The first sections of a model with stages, components and requirements, nothing to say.
+constexpr const char* kModeloSinHallazgos = R"(
+COMPROBACION DEL CICLO DE VIDA
+     <sin errores>
+
+COMPROBACION DE EXISTENCIA DE COMPONENTES
+     <sin errores>
+
+COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES
+** nivel de componentes **
+     <sin errores>
+** nivel de opciones **
+     <sin errores>
+
+COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS
+     <sin errores>
+
+)";
 
 // The sections of a model with a requirements tree and nothing to say about it, the
 // subcriteria level left out.
@@ -94,22 +113,8 @@ TEST(Compilacion, ASoundModelHasNothingToSay) {
 AVISOS TOTALES: 0
 ERRORES TOTALES: 0
 
-COMPROBACION DEL CICLO DE VIDA
-     <sin errores>
-
-COMPROBACION DE EXISTENCIA DE COMPONENTES
-     <sin errores>
-
-COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES
-** nivel de componentes **
-     <sin errores>
-** nivel de opciones **
-     <sin errores>
-
-COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS
-     <sin errores>
-
-)") + Esperado(kArbolSinHallazgos);
+)") + Esperado(kModeloSinHallazgos) +
+                                 Esperado(kArbolSinHallazgos);
     const InformeErrores informe = ComprobarModelo(pruebas::ModeloCorrecto());
     EXPECT_EQ(TextoInforme(informe, true), esperado);
     EXPECT_EQ(Desenlace(informe), DesenlaceCompilacion::Correcta);
@@ -129,21 +134,8 @@ TEST(Compilacion, AModelOfSingleChildrenWithoutWeightsOrFunctions) {
 AVISOS TOTALES: 4
 ERRORES TOTALES: 3
 
-COMPROBACION DEL CICLO DE VIDA
-     <sin errores>
-
-COMPROBACION DE EXISTENCIA DE COMPONENTES
-     <sin errores>
-
-COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES
-** nivel de componentes **
-     <sin errores>
-** nivel de opciones **
-     <sin errores>
-
-COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS
-     <sin errores>
-
+)") + Esperado(kModeloSinHallazgos) +
+                                 Esperado(R"(
 COMPROBACION DE REPETICION DE NOMBRES EN REQUERIMIENTOS
 ** nivel de requerimientos **
      <sin errores>

@@ -2,7 +2,7 @@
 // keys, and the rules behind the findings.
 
 #include "core/compilation/comprobaciones.h"
-#include "modelo_prueba.h"
+#include "soporte/modelo_sano.h"
 
 #include <gtest/gtest.h>
 
@@ -59,28 +59,13 @@ TEST(ComprobacionesDeCuenta, AnEmptyZeroOrNegativeCountIsAFindingInsteadOfTheAll
     }
 }
 
-Componente ComponenteCon(const std::string& nombre, const std::vector<std::string>& opciones) {
-    Componente componente;
-    componente.Nombre = nombre;
-    componente.NumSubcomponentes = static_cast<int16_t>(opciones.size());
-    componente.Subcomponentes.Redimensionar(static_cast<int>(opciones.size()));
-    for (std::size_t k = 0; k < opciones.size(); ++k) {
-        componente.Subcomponentes(static_cast<int>(k) + 1).Nombre = opciones[k];
-    }
-    return componente;
-}
-
 TEST(NombresRepetidos, ComponentsAndTheOptionsOfOneComponentPairUpWhateverTheirCase) {
     Modelo modelo;
-    const std::vector<Componente> componentes = {
-        ComponenteCon("Bomba", {"Eje", "eje"}), ComponenteCon("Válvula", {"Eje"}),
-        ComponenteCon("BOMBA", {}), ComponenteCon("VÁLVULA", {}),
-        ComponenteCon("bomba", {"Junta", "Sello", "JUNTA"})};
-    modelo.NumComponentes = 5;
-    modelo.Componentes.Redimensionar(5);
-    for (int k = 1; k <= 5; ++k) {
-        modelo.Componentes(k) = componentes[static_cast<std::size_t>(k) - 1];
-    }
+    pruebas::PonerComponentes(modelo, {{"Bomba", {"Eje", "eje"}},
+                                       {"Válvula", {"Eje"}},
+                                       {"BOMBA", {}},
+                                       {"VÁLVULA", {}},
+                                       {"bomba", {"Junta", "Sello", "JUNTA"}}});
     EXPECT_EQ(Seccion(ComprobarNombresRepetidosComponentes, modelo), Esperado(R"(
 COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES
 ** nivel de componentes **

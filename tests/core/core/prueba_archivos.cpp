@@ -2,6 +2,7 @@
 #include "core/core/codigo_pagina.h"
 #include "core/core/directorio_programa.h"
 #include "core/core/error_ejecucion.h"
+#include "soporte/errores.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -55,18 +56,10 @@ TEST_F(Archivos, AFailedWriteLeavesThePreviousFileIntact) {
 }
 
 TEST_F(Archivos, FailuresAreRuntimeErrors) {
-    try {
-        (void)LeerArchivo(Ruta("no-esta.vdm"));
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.Numero(), ErrArchivoNoEncontrado);
-    }
-    try {
-        EscribirArchivo(Ruta("no-existe/modelo.vdm"), "x");
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.Numero(), ErrRutaNoEncontrada);
-    }
+    EXPECT_EQ(pruebas::NumeroDeError([&] { (void)LeerArchivo(Ruta("no-esta.vdm")); }),
+              ErrArchivoNoEncontrado);
+    EXPECT_EQ(pruebas::NumeroDeError([&] { EscribirArchivo(Ruta("no-existe/modelo.vdm"), "x"); }),
+              ErrRutaNoEncontrada);
 }
 
 TEST_F(Archivos, PathsAcceptBothSeparators) {

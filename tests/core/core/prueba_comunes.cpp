@@ -1,6 +1,7 @@
 #include "core/core/comunes.h"
 #include "core/core/error_ejecucion.h"
 
+#include "soporte/componentes_etapas.h"
 #include "soporte/errores.h"
 
 #include <gtest/gtest.h>
@@ -67,14 +68,7 @@ TEST(Comunes, TextoIntervalo) {
 
 TEST(Comunes, ComponentRowsAndStages) {
     Modelo m;
-    m.NumComponentes = 2;
-    m.Componentes.Redimensionar(2);
-    m.Componentes(1).Nombre = "Bombas";
-    m.Componentes(1).NumSubcomponentes = 2;
-    m.Componentes(1).Subcomponentes.Redimensionar(2);
-    m.Componentes(1).Subcomponentes(1).Nombre = "Motor";
-    m.Componentes(1).Subcomponentes(2).Nombre = "Rodete";
-    m.Componentes(2).Nombre = "Tuberías";
+    pruebas::PonerComponentes(m, {{"Bombas", {"Motor", "Rodete"}}, {"Tuberías", {}}});
     EXPECT_EQ(LlenarArbolComponentes(m, false), (std::vector<FilaArbol>{{"Co1", "Bombas", ""},
                                                                         {"Sc1Co1", "Motor", "Co1"},
                                                                         {"Sc2Co1", "Rodete", "Co1"},

@@ -1,6 +1,7 @@
 #include "core/core/configuracion.h"
 #include "core/core/error_ejecucion.h"
 #include "core/core/ini.h"
+#include "soporte/errores.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -55,12 +56,8 @@ TEST_F(Configuracion_, AFontSizeOutOfRangeIsTakenAndTextIsAConversionError) {
     EXPECT_EQ(c().TamanoFuente, 5);
 
     Escribir(ini, "[GENERAL]\r\nTAMA\xD1O_FUENTE=grande\r\n");
-    try {
-        CargarConfiguracion(sesion());
-        FAIL() << "a font size that is no number stops the start";
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.Numero(), ErrTipos);
-    }
+    EXPECT_EQ(pruebas::NumeroDeError([&] { CargarConfiguracion(sesion()); }), ErrTipos)
+        << "a font size that is no number stops the start";
 }
 
 TEST_F(Configuracion_, PreferencesAreWrittenThroughAtOnce) {

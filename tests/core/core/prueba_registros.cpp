@@ -1,5 +1,4 @@
 #include "core/core/registros.h"
-#include "core/core/sesion.h"
 
 #include <gtest/gtest.h>
 
@@ -17,18 +16,6 @@ Modelo ModeloConCriterios(const std::vector<ValorLibre>& subcriteriosPorCriterio
         r.Criterios(c).NumSubcriterios = subcriteriosPorCriterio[static_cast<std::size_t>(c - 1)];
     }
     return m;
-}
-
-TEST(Registros, AFreshSessionHoldsTheEmptyModel) {
-    ReiniciarSesion();
-    const Modelo& m = SesionActual().modelo;
-    EXPECT_TRUE(m.NumRequerimientos.EsVacio());
-    EXPECT_FALSE(m.Requerimientos.Presente());
-    EXPECT_TRUE(m.NumComponentes.EsVacio());
-    EXPECT_TRUE(m.NumEtapas.EsVacio());
-    EXPECT_FALSE(m.Modificado);
-    EXPECT_TRUE(m.Nombre.empty());
-    EXPECT_TRUE(m.EjeX.empty());
 }
 
 TEST(Registros, HaySubcriteriosLooksAtEveryCriterion) {

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+
 namespace vadro {
 namespace {
 
@@ -80,14 +82,6 @@ TEST(Arreglo, AbsentUntilSizedAndIndexedFromOne) {
     a.Redimensionar(1);
     EXPECT_EQ(a(1), 0) << "sizing anew drops the content";
 }
-
-} // namespace
-} // namespace vadro
-
-#include <clocale>
-
-namespace vadro {
-namespace {
 
 // The window layer sets the C locale from the user's environment; numbers in files and in
 // the core must not follow it.

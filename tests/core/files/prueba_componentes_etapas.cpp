@@ -1,6 +1,7 @@
 #include "core/files/componentes_etapas.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
+#include "soporte/componentes_etapas.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -14,17 +15,8 @@ class ComponentesEtapas : public pruebas::PruebaSesion {
 protected:
     static Modelo ConComponentesYEtapas() {
         Modelo m;
-        m.NumComponentes = 2;
-        m.Componentes.Redimensionar(2);
-        m.Componentes(1).Nombre = "Bombas";
-        m.Componentes(1).NumSubcomponentes = 1;
-        m.Componentes(1).Subcomponentes.Redimensionar(1);
-        m.Componentes(1).Subcomponentes(1).Nombre = "Motor";
-        m.Componentes(2).Nombre = "Tuberías";
-        m.NumEtapas = 2;
-        m.Etapas.Redimensionar(2);
-        m.Etapas(1) = "Diseño";
-        m.Etapas(2) = " Obra";
+        pruebas::PonerComponentes(m, {{"Bombas", {"Motor"}}, {"Tuberías", {}}});
+        pruebas::PonerEtapas(m, {"Diseño", " Obra"});
         return m;
     }
     std::string ruta = Ruta("modelo.vdm");

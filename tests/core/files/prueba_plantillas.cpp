@@ -3,6 +3,7 @@
 #include "core/files/plantillas.h"
 #include "core/files/proteccion.h"
 #include "core/files/seccion_funcion.h"
+#include "soporte/componentes_etapas.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/prueba_sesion.h"
 
@@ -17,13 +18,8 @@ class Plantillas : public pruebas::PruebaSesion {
 protected:
     Plantillas() {
         std::filesystem::create_directories(otra);
-        Modelo& m = sesion().modelo;
-        m.NumEtapas = 1;
-        m.Etapas.Redimensionar(1);
-        m.Etapas(1) = "Explotación";
-        m.NumComponentes = 1;
-        m.Componentes.Redimensionar(1);
-        m.Componentes(1).Nombre = "Depósito";
+        pruebas::PonerEtapas(sesion().modelo, {"Explotación"});
+        pruebas::PonerComponentes(sesion().modelo, {{"Depósito", {}}});
     }
     std::string Directorio(const std::string& clave) {
         return LeerIni("DIRECTORIOS", clave, Ruta("Config.ini")).Texto();
@@ -62,10 +58,7 @@ TEST_F(Plantillas, TheFirstDialogOpensOnTheDefaultFolderAndTheChosenFolderIsReme
 
 TEST_F(Plantillas, ImportReplacesOneSectionAndLeavesTheOthers) {
     Modelo plantilla;
-    plantilla.NumComponentes = 2;
-    plantilla.Componentes.Redimensionar(2);
-    plantilla.Componentes(2).Nombre = "Válvula";
-    plantilla.Componentes(1).Nombre = "Bomba";
+    pruebas::PonerComponentes(plantilla, {{"Bomba", {}}, {"Válvula", {}}});
     GuardarComponentes(plantilla, otra + "/c.cmp", false);
     dialogos.Elegir("Importar componentes", otra + "/c.cmp");
     ASSERT_TRUE(ImportarComponentes(sesion().modelo));

@@ -3,6 +3,7 @@
 #include "core/files/proteccion.h"
 #include "core/files/seccion_funcion.h"
 #include "funciones_prueba.h"
+#include "soporte/errores.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -144,12 +145,7 @@ TEST_F(SeccionFuncion, AFailedStatementIsShownAndRetriedUntilItsCauseIsGone) {
 TEST_F(SeccionFuncion, ReadingFailuresGoUpToTheCaller) {
     const auto error = [&](Lineas lineas) {
         lineas.insert(lineas.begin(), "FUN_K_IND = K");
-        try {
-            (void)Leer(lineas);
-        } catch (const ErrorEjecucion& e) {
-            return e.Numero();
-        }
-        return 0;
+        return NumeroDeError([&] { (void)Leer(lineas); });
     };
     EXPECT_EQ(error({"FUN_K_RMN = cero"}), ErrTipos);
     EXPECT_EQ(error({"FUN_K_TIP = fEscalon", "FUN_K_ESC_NUM = dos"}), ErrTipos);

@@ -2,6 +2,7 @@
 #include "core/core/error_ejecucion.h"
 #include "core/files/proteccion.h"
 #include "core/files/seccion_requerimientos.h"
+#include "soporte/errores.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -62,12 +63,7 @@ protected:
 
     int ErrorAlLeer(const Lineas& lineas, Modelo& m) {
         Escribir(ruta, UnirLineas(lineas));
-        try {
-            CargarRequerimientos(m, ruta);
-        } catch (const ErrorEjecucion& e) {
-            return e.Numero();
-        }
-        return 0;
+        return pruebas::NumeroDeError([&] { CargarRequerimientos(m, ruta); });
     }
     int ErrorAlLeer(const Lineas& lineas) {
         Modelo m;

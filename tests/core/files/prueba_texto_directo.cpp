@@ -6,6 +6,7 @@
 #include "core/core/error_ejecucion.h"
 #include "core/files/proteccion.h"
 #include "core/files/texto_modelo.h"
+#include "soporte/errores.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -113,12 +114,9 @@ TEST_F(TextoDirecto, WritingAndOpeningAgreeWithTheLineByLineRules) {
 TEST_F(TextoDirecto, FailuresAndKeysBehaveAsBefore) {
     EXPECT_THROW((void)ArchivoEntrada::Abrir(Ruta("no-existe.vdm")), ErrorEjecucion);
     std::filesystem::create_directory(Ruta("carpeta.vdm"));
-    try {
-        (void)ArchivoEntrada::Abrir(Ruta("carpeta.vdm"));
-        ADD_FAILURE() << "a directory is no file";
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.Numero(), ErrAccesoRuta);
-    }
+    EXPECT_EQ(pruebas::NumeroDeError([&] { (void)ArchivoEntrada::Abrir(Ruta("carpeta.vdm")); }),
+              ErrAccesoRuta)
+        << "a directory is no file";
     ArchivoEntrada archivo({"*****", "PA\xD1O = tela", "FIN = "});
     EXPECT_EQ(BuscarValor(archivo, "PAÑO").Texto(), "tela") << "keys are looked for in 8 bits";
 }

@@ -1,8 +1,8 @@
 #include "core/core/archivos.h"
 #include "core/core/error_ejecucion.h"
 #include "core/core/version.h"
-#include "core/files/modelo_archivo.h"
 #include "core/shell/comandos_modelo.h"
+#include "soporte/componentes_etapas.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/prueba_sesion.h"
 
@@ -22,46 +22,30 @@ protected:
         modelo().Modificado = true;
     }
 
-    // The name stored in a model file, read back through the file layer.
-    static std::string NombreGuardadoEn(const std::string& ruta) {
-        Modelo leido;
-        CargarModelo(leido, ruta);
-        return leido.Nombre;
-    }
-
     const std::string preguntaCierre = "Desea guardar los cambios realizados en el modelo actual?";
     const std::string tituloGuardar = "Guardar modelo como...";
 };
 
 TEST_F(ComandosModelo, InicializarModeloBlanksEverythingTheNewModelDoesNotKeep) {
     Modelo& m = modelo();
-    m.Nombre = "a";
-    m.Fecha = "b";
-    m.Autor = "c";
-    m.Version = "d";
-    m.Localizacion = "e";
-    m.Referencia = "f";
-    m.Descripcion = "g";
-    m.Archivo = "/x/m.vdm";
+    const std::vector<std::string*> textos = {&m.Archivo,    &m.Nombre,     &m.Fecha,
+                                              &m.Autor,      &m.Version,    &m.Localizacion,
+                                              &m.Referencia, &m.Descripcion};
+    for (std::string* campo : textos) {
+        *campo = "viejo";
+    }
     m.Aplicacion = "0.9.1";
-    m.EjeX = "X";
-    m.EjeY = "Y";
-    m.EjeZ = "Z";
+    m.EjeX = m.EjeY = m.EjeZ = "X";
     m.ConSubcriterios = true;
     m.NumRequerimientos = 2;
     m.Requerimientos.Redimensionar(2);
     m.Requerimientos(1).Nombre = "viejo";
-    m.NumComponentes = 1;
-    m.Componentes.Redimensionar(1);
-    m.Componentes(1).Nombre = "viejo";
-    m.NumEtapas = 3;
-    m.Etapas.Redimensionar(3);
-    m.Etapas(1) = "viejo";
+    pruebas::PonerComponentes(m, {{"viejo", {"viejo"}}});
+    pruebas::PonerEtapas(m, {"viejo", "", ""});
 
     InicializarModelo(m);
 
-    for (const std::string* campo : {&m.Archivo, &m.Nombre, &m.Fecha, &m.Autor, &m.Version,
-                                     &m.Localizacion, &m.Referencia, &m.Descripcion}) {
+    for (const std::string* campo : textos) {
         EXPECT_EQ(*campo, "");
     }
     EXPECT_EQ(m.Aplicacion, VersionPrograma());

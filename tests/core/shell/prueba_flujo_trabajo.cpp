@@ -6,20 +6,9 @@
 namespace vadro {
 namespace {
 
-class FlujoTrabajo : public pruebas::PruebaSesion {
-protected:
-    const std::string titulo = "VADRO PROGRAMADOR: final de modelo";
-    const std::string queHacer =
-        "Guarde el modelo y cierre la aplicación, cree un modelo nuevo o abra uno existente.";
-};
-
-TEST_F(FlujoTrabajo, TheStatusTextShowsThePositionInLowerCase) {
-    EXPECT_EQ(TextoPosicion(kPosicionEjes), "Posición: ejes");
-    EXPECT_EQ(TextoPosicion(kPosicionResumen), "Posición: resumen");
-    EXPECT_EQ(TextoPosicion(kPosicionPonderacion), "Posición: ponderacion");
-    EXPECT_EQ(TextoPosicion(kPosicionInforme), "Posición: informe");
-    EXPECT_EQ(TextoPosicion(""), "Posición: ") << "before a model is open";
-}
+// The status texts and the questions at the end of the line, answered each way, are checked
+// by the walks of the main window.
+class FlujoTrabajo : public pruebas::PruebaSesion {};
 
 TEST_F(FlujoTrabajo, AnEmptyCountAndZeroBothMeanNone) {
     EXPECT_FALSE(HayElementos(ValorLibre()));
@@ -31,31 +20,13 @@ TEST_F(FlujoTrabajo, AnEmptyCountAndZeroBothMeanNone) {
 
 TEST_F(FlujoTrabajo, ACompiledModelOnlyHearsWhatToDoNext) {
     sesion().modelo.Compilado = true;
-    mensajes.Esperar(titulo, "Ya ha completado el diseño del modelo.\n\r" + queHacer);
+    mensajes.Esperar("VADRO PROGRAMADOR: final de modelo",
+                     "Ya ha completado el diseño del modelo.\n\rGuarde el modelo y cierre la "
+                     "aplicación, cree un modelo nuevo o abra uno existente.");
     EXPECT_FALSE(PreguntarCompilarAlFinal(sesion().modelo));
     ASSERT_EQ(mensajes.Vistos().size(), 1u);
     EXPECT_EQ(mensajes.Vistos()[0].botones, Botones::Aceptar);
     EXPECT_EQ(mensajes.Vistos()[0].icono, Icono::Informacion);
-}
-
-TEST_F(FlujoTrabajo, AModelNotCompiledIsAskedAndYesAsksForTheCompilation) {
-    mensajes.Esperar(titulo,
-                     "Ya ha completado el diseño del modelo.\n\r"
-                     "Desea compilarlo para detectar posibles errores?",
-                     Respuesta::Si);
-    EXPECT_TRUE(PreguntarCompilarAlFinal(sesion().modelo));
-    ASSERT_EQ(mensajes.Vistos().size(), 1u);
-    EXPECT_EQ(mensajes.Vistos()[0].botones, Botones::SiNo);
-}
-
-TEST_F(FlujoTrabajo, NoToTheCompilationLeavesTheAdviceAlone) {
-    mensajes.Esperar(titulo,
-                     "Ya ha completado el diseño del modelo.\n\r"
-                     "Desea compilarlo para detectar posibles errores?",
-                     Respuesta::No);
-    mensajes.Esperar(titulo, queHacer);
-    EXPECT_FALSE(PreguntarCompilarAlFinal(sesion().modelo));
-    EXPECT_EQ(mensajes.Vistos().back().icono, Icono::Informacion);
 }
 
 TEST_F(FlujoTrabajo, AModelWithoutRequirementsCannotBeCompiled) {

@@ -1,9 +1,9 @@
 #include "core/core/archivos.h"
-#include "core/core/codigo_pagina.h"
 #include "core/core/version.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
 #include "core/shell/herramientas.h"
+#include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -83,99 +83,20 @@ TEST_F(Herramientas, ProtegerTakesEightBitTextAsItStands) {
 }
 
 // A sound model with one warning: its requirement has a single criterion.
-std::string ModeloSano() {
-    const std::vector<std::string> lineas = {"*****MODELO*****",
-                                             "MOD_APL = 1.0.0",
-                                             "MOD_NOM = Depuradora",
-                                             "MOD_DAT = ",
-                                             "MOD_POR = ",
-                                             "MOD_VER = ",
-                                             "MOD_LOC = ",
-                                             "MOD_REF = ",
-                                             "MOD_DSC = ",
-                                             "MOD_FCP = ",
-                                             "MOD_EJX = Tiempo",
-                                             "MOD_EJY = Requerimientos",
-                                             "MOD_EJZ = Componentes",
-                                             "MOD_PERM_USU_VER = Falso",
-                                             "*****REQUERIMIENTOS*****",
-                                             "REQ_NUMR =  1 ",
-                                             "REQ_R1_NOM = Funcional",
-                                             "REQ_R1_DSC = ",
-                                             "REQ_R1_PSO =  100000000 ",
-                                             "REQ_R1_STY1 =  1000000 ",
-                                             "REQ_R1_DIR = ",
-                                             "REQ_R1_CAL =  0 ",
-                                             "REQ_R1_NUMC =  1 ",
-                                             "REQ_C1R1_NOM = Calidad",
-                                             "REQ_C1R1_DSC = ",
-                                             "REQ_C1R1_PSO =  100000000 ",
-                                             "REQ_C1R1_STY1 =  1000000 ",
-                                             "REQ_C1R1_DIR = ",
-                                             "REQ_C1R1_CAL =  0 ",
-                                             "REQ_C1R1_NUMI =  2 ",
-                                             "REQ_I1C1R1_NOM = Caudal",
-                                             "REQ_I1C1R1_DSC = ",
-                                             "REQ_I1C1R1_PSO =  50000000 ",
-                                             "REQ_I1C1R1_STY1 =  1000000 ",
-                                             "REQ_I1C1R1_STY2 =  1000000 ",
-                                             "REQ_I1C1R1_DIR = ",
-                                             "REQ_I1C1R1_CAL =  0 ",
-                                             "*****FUNCION VALOR I1C1R1*****",
-                                             "FUN_I1C1R1_IND = I1C1R1",
-                                             "FUN_I1C1R1_UNI = m3",
-                                             "FUN_I1C1R1_XMN =  0 ",
-                                             "FUN_I1C1R1_XMNS = igual",
-                                             "FUN_I1C1R1_XMX =  100000000 ",
-                                             "FUN_I1C1R1_XMXS = <",
-                                             "FUN_I1C1R1_RMN =  0 ",
-                                             "FUN_I1C1R1_RMX =  1000000 ",
-                                             "FUN_I1C1R1_TIP = fContinua",
-                                             "FUN_I1C1R1_C =  50000000 ",
-                                             "FUN_I1C1R1_K =  1000000 ",
-                                             "FUN_I1C1R1_P =  2000000 ",
-                                             "REQ_I2C1R1_NOM = Coste",
-                                             "REQ_I2C1R1_DSC = ",
-                                             "REQ_I2C1R1_PSO =  50000000 ",
-                                             "REQ_I2C1R1_STY1 =  1000000 ",
-                                             "REQ_I2C1R1_STY2 =  1000000 ",
-                                             "REQ_I2C1R1_DIR = ",
-                                             "REQ_I2C1R1_CAL =  0 ",
-                                             "*****FUNCION VALOR I2C1R1*****",
-                                             "FUN_I2C1R1_IND = I2C1R1",
-                                             "FUN_I2C1R1_UNI = €",
-                                             "FUN_I2C1R1_XMN =  0 ",
-                                             "FUN_I2C1R1_XMNS = igual",
-                                             "FUN_I2C1R1_XMX =  10000000 ",
-                                             "FUN_I2C1R1_XMXS = igual",
-                                             "FUN_I2C1R1_RMN =  0 ",
-                                             "FUN_I2C1R1_RMX =  1000000 ",
-                                             "FUN_I2C1R1_TIP = fEscalon",
-                                             "FUN_I2C1R1_ESC_NUM =  2 ",
-                                             "FUN_I2C1R1_ESC1_VINI =  0 ",
-                                             "FUN_I2C1R1_ESC1_SINI = igual",
-                                             "FUN_I2C1R1_ESC1_VFIN =  5000000 ",
-                                             "FUN_I2C1R1_ESC1_SFIN = <",
-                                             "FUN_I2C1R1_ESC1_VAL =  0 ",
-                                             "FUN_I2C1R1_ESC2_VINI =  5000000 ",
-                                             "FUN_I2C1R1_ESC2_SINI = igual",
-                                             "FUN_I2C1R1_ESC2_VFIN =  10000000 ",
-                                             "FUN_I2C1R1_ESC2_SFIN = igual",
-                                             "FUN_I2C1R1_ESC2_VAL =  1000000 ",
-                                             "REQ_C1R1_NUMS =  0 ",
-                                             "*****COMPONENTES*****",
-                                             "CMP_NUM =  1 ",
-                                             "CMP_C1_NOM = Bombas",
-                                             "CMP_C1_NUM =  1 ",
-                                             "CMP_S1C1_NOM = Motor",
-                                             "*****ETAPAS*****",
-                                             "ETA_NUM =  1 ",
-                                             "ETA_NOM1 = Explotación"};
-    return AOchoBits(UnirLineas(lineas));
+Modelo ModeloSano() {
+    FuncionValor euros = pruebas::Continua();
+    euros.Unidades = "€";
+    return pruebas::ModeloCon({pruebas::Requerimiento(
+        "Funcional", {pruebas::Criterio("Calidad", {pruebas::Indicador("Caudal"),
+                                                    pruebas::Indicador("Coste", euros)})})});
+}
+
+void Guardar(Modelo modelo, const std::string& ruta) {
+    GuardarModelo(modelo, ruta, false);
 }
 
 TEST_F(Herramientas, ComprobarPrintsTheReportAsTheCompileWindowShowsIt) {
-    Escribir(Ruta("sano.vdm"), ModeloSano());
+    Guardar(ModeloSano(), Ruta("sano.vdm"));
     const Resultado sano = Programa("comprobar sano.vdm");
     EXPECT_EQ(sano.estado, 0) << sano.error;
     EXPECT_EQ(sano.salida.rfind(
@@ -185,10 +106,9 @@ TEST_F(Herramientas, ComprobarPrintsTheReportAsTheCompileWindowShowsIt) {
     EXPECT_NE(sano.salida.find("     Aviso: el nodo R1 solo tiene un criterio\n"),
               std::string::npos);
 
-    std::string conError = ModeloSano();
-    const std::string conUnidades = "FUN_I2C1R1_UNI = \x80";
-    conError.replace(conError.find(conUnidades), conUnidades.size(), "FUN_I2C1R1_UNI = ");
-    Escribir(Ruta("error.vdm"), conError);
+    Modelo sinUnidades = ModeloSano();
+    sinUnidades.Requerimientos(1).Criterios(1).Indicadores(2).Funcion.Unidades = "";
+    Guardar(sinUnidades, Ruta("error.vdm"));
     const Resultado mal = Programa("comprobar error.vdm --claves");
     EXPECT_EQ(mal.estado, 1);
     EXPECT_NE(mal.salida.find("ERRORES TOTALES: 1\t\n"), std::string::npos) << mal.salida;
@@ -197,7 +117,7 @@ TEST_F(Herramientas, ComprobarPrintsTheReportAsTheCompileWindowShowsIt) {
 }
 
 TEST_F(Herramientas, CompilarWritesTheCompiledModelOnlyWithoutErrors) {
-    Escribir(Ruta("sano.vdm"), ModeloSano());
+    Guardar(ModeloSano(), Ruta("sano.vdm"));
     const Resultado r = Programa("compilar sano.vdm sano.vdc");
     EXPECT_EQ(r.estado, 0) << r.error;
     EXPECT_EQ(r.salida, "Se ha creado el archivo compilado sano.vdc\n");
@@ -207,9 +127,9 @@ TEST_F(Herramientas, CompilarWritesTheCompiledModelOnlyWithoutErrors) {
     EXPECT_EQ(compilado.ArchivoCompilado, "sano.vdc");
     EXPECT_EQ(compilado.Requerimientos(1).Criterios(1).Indicadores(2).Funcion.Unidades, "€");
 
-    std::string conError = ModeloSano();
-    conError.replace(conError.find("REQ_NUMR =  1 "), 14, "REQ_NUMR = 0");
-    Escribir(Ruta("vacio.vdm"), conError);
+    Modelo vacio = ModeloSano();
+    vacio.NumRequerimientos = 0;
+    Guardar(vacio, Ruta("vacio.vdm"));
     const Resultado mal = Programa("compilar vacio.vdm vacio.vdc");
     EXPECT_EQ(mal.estado, 1);
     EXPECT_NE(mal.salida.find("     Error: no se ha definido arbol de requerimientos"),

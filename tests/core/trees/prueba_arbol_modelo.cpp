@@ -1,4 +1,3 @@
-#include "core/core/formato_numero.h"
 #include "modelo_prueba.h"
 #include "volcado.h"
 
@@ -68,9 +67,6 @@ TEST(LlenarArbol, KeysWeightsAndFunctionLinesOnRequest) {
     EXPECT_EQ(Forma(a, TextoDe),
               "Modelo [(R1) A (0.00 %)[(C1R1) C[(I1C1R1) i (2.68 %)[C = 2.675; K = ; P = ]]]]");
     EXPECT_EQ(a.Nodo(5)->Key(), "valI1C1R1");
-    EXPECT_EQ(Formato00(99.999), "100.00");
-    EXPECT_EQ(Formato00(ValorLibre("3,5")), "3.50");
-    EXPECT_EQ(Formato00(ValorLibre("n/d")), "n/d");
 }
 
 TEST(EliminarSubcriteriosDelNodo, IndicatorsComeUpLastFirstKeepingTheirKeys) {

@@ -1,4 +1,5 @@
 #include "core/core/error_ejecucion.h"
+#include "soporte/errores.h"
 #include "soporte/guion_modales.h"
 #include "soporte/prueba_sesion.h"
 #include "windows/core/frmInicio.h"
@@ -98,12 +99,7 @@ TEST_F(Arranque_, ASecondInstanceIsOnlyAQuestion) {
 
 TEST_F(Arranque_, AFontSizeThatIsNoNumberStopsTheStart) {
     Escribir(Ruta("Config.ini"), "[GENERAL]\r\nTAMA\xD1O_FUENTE=grande\r\n");
-    try {
-        arranque.Iniciar();
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.Numero(), ErrTipos);
-    }
+    EXPECT_EQ(pruebas::NumeroDeError([&] { arranque.Iniciar(); }), ErrTipos);
     EXPECT_EQ(arranque.Principal(), nullptr);
 }
 

@@ -1,7 +1,6 @@
 #include "ventana_principal.h"
 
 #include "core/core/archivos.h"
-#include "core/files/modelo_archivo.h"
 #include "soporte/guion_dialogos.h"
 
 #include <gtest/gtest.h>
@@ -23,11 +22,6 @@ protected:
     void EsperarPregunta(Respuesta respuesta) {
         mensajes.Esperar("VADRO PROGRAMADOR",
                          "Desea guardar los cambios realizados en el modelo actual?", respuesta);
-    }
-    static std::string NombreGuardadoEn(const std::string& ruta) {
-        Modelo leido;
-        CargarModelo(leido, ruta);
-        return leido.Nombre;
     }
 };
 

@@ -2,7 +2,6 @@
 
 #include "core/core/archivos.h"
 #include "core/core/version.h"
-#include "core/files/modelo_archivo.h"
 #include "soporte/guion_dialogos.h"
 #include "windows/core/frmInicio.h"
 #include "windows/core/modal.h"
@@ -20,11 +19,6 @@ using Strings = std::vector<std::string>;
 
 class Comandos : public pruebas::VentanaPrincipal {
 protected:
-    static std::string NombreGuardadoEn(const std::string& ruta) {
-        Modelo leido;
-        CargarModelo(leido, ruta);
-        return leido.Nombre;
-    }
     const std::string tituloNuevo = "VADRO PROGRAMADOR: Nuevo modelo";
     const std::string preguntaNuevo = "Desea guardar el modelo activo?";
 };
@@ -32,16 +26,10 @@ protected:
 TEST_F(Comandos, NuevoBlanksTheModelAndMarksTheThreeDesignSteps) {
     Modelo& m = sesion().modelo;
     m.Nombre = "viejo";
-    m.Archivo = Ruta("viejo.vdm");
-    m.NumRequerimientos = 3;
-    m.EjeX = "X";
     principal.MarcarPaso(1, true);
     principal.MarcarPaso(2, true);
     NuevoModelo();
-    EXPECT_EQ(m.Nombre, "");
-    EXPECT_EQ(m.Archivo, "");
-    EXPECT_EQ(m.NumRequerimientos, ValorLibre(0));
-    EXPECT_EQ(m.EjeX, "Tiempo");
+    EXPECT_EQ(m.Nombre, "") << "the whole blanking is the core's";
     EXPECT_EQ(m.Aplicacion, VersionPrograma());
     for (int i : {1, 2, 3}) {
         EsperarPendiente(i);

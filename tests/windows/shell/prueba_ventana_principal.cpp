@@ -56,7 +56,6 @@ TEST_F(VentanaPrincipal_, TheMenuBarWithItsCaptionsAndAccessKeys) {
     EXPECT_EQ(Texto("mnuPreferencias"), "Pre&ferencias");
     EXPECT_EQ(Texto("mnuSalir"), "&Salir");
 
-    EXPECT_EQ(Titulo("mnuModelo"), "&Modelo");
     EXPECT_EQ(Titulo("mnuImportar"), "I&mportar");
     EXPECT_EQ(Titulo("mnuExportar"), "E&xportar");
     EXPECT_EQ(Entradas("mnuImportar"),
@@ -78,9 +77,7 @@ TEST_F(VentanaPrincipal_, TheMenuBarWithItsCaptionsAndAccessKeys) {
     EXPECT_EQ(Texto("mnuCompilar"), "Compilar");
     EXPECT_EQ(Texto("mnuPropiedades"), "&Propiedades");
 
-    EXPECT_EQ(Titulo("mnuVentana"), "Ve&ntana");
     EXPECT_EQ(Texto("mnuOrganizar"), "&Organizar");
-    EXPECT_EQ(Titulo("mnuAyuda"), "Ay&uda");
     EXPECT_EQ(Texto("mnuManual"), "&Manual de uso");
     EXPECT_EQ(Texto("mnuAcercaDe"), "&Acerca de...");
 }

@@ -2,7 +2,9 @@
 
 #include "core/compilation/informe_errores.h"
 #include "core/core/registros.h"
+#include "soporte/componentes_etapas.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,7 +30,8 @@ inline FuncionValor Continua() {
     return f;
 }
 
-// Counts and arrays as the file reader leaves them: the count as a number, the array sized.
+// Counts and arrays as the file reader leaves them: the count as a number, the array sized,
+// every row of comparisons all ones.
 template <typename Nodo>
 void Colgar(ValorLibre& cuenta, Arreglo<Nodo>& arreglo, std::vector<Nodo> nodos) {
     cuenta = static_cast<int>(nodos.size());
@@ -38,6 +41,8 @@ void Colgar(ValorLibre& cuenta, Arreglo<Nodo>& arreglo, std::vector<Nodo> nodos)
         nodo = std::move(nodos[k]);
         nodo.Peso = 100.0 / static_cast<double>(nodos.size());
         nodo.PesoAuxiliar = 0.0;
+        nodo.Saaty.Redimensionar(static_cast<int>(nodos.size()));
+        std::fill(nodo.Saaty.begin(), nodo.Saaty.end(), ValorLibre(1.0));
     }
 }
 
@@ -79,18 +84,8 @@ inline Modelo ModeloCon(std::vector<NodoRequerimiento> requerimientos) {
     Modelo modelo;
     Colgar(modelo.NumRequerimientos, modelo.Requerimientos, std::move(requerimientos));
     modelo.ConSubcriterios = HaySubcriterios(modelo);
-    modelo.NumEtapas = 1;
-    modelo.Etapas.Redimensionar(1);
-    modelo.Etapas(1) = "Construcción";
-    Componente componente;
-    componente.Nombre = "Estructura";
-    componente.NumSubcomponentes = 2;
-    componente.Subcomponentes.Redimensionar(2);
-    componente.Subcomponentes(1).Nombre = "Hormigón";
-    componente.Subcomponentes(2).Nombre = "Acero";
-    modelo.NumComponentes = 1;
-    modelo.Componentes.Redimensionar(1);
-    modelo.Componentes(1) = componente;
+    PonerEtapas(modelo, {"Construcción"});
+    PonerComponentes(modelo, {{"Estructura", {"Hormigón", "Acero"}}});
     return modelo;
 }
 
