@@ -1,5 +1,6 @@
 #include "windows/core/dialogo_aviso.h"
 
+#include "windows/core/controles.h"
 #include "windows/core/texto.h"
 
 #include <QCheckBox>
@@ -26,19 +27,14 @@ DialogoAviso::DialogoAviso(const QStringList& textos, std::function<void(bool mo
     chkAviso->setObjectName(Q("chkAviso"));
     columna->addWidget(chkAviso);
 
-    auto* botones = new QHBoxLayout;
-    botones->addStretch();
-    cmdAceptar = new QPushButton(Q("Aceptar"), this);
-    cmdAceptar->setObjectName(Q("cmdAceptar"));
-    cmdAceptar->setDefault(true);
-    botones->addWidget(cmdAceptar);
+    cmdAceptar = BotonAceptar(this);
     if (conCancelar) {
-        cmdCancelar = new QPushButton(Q("Cancelar"), this);
-        cmdCancelar->setObjectName(Q("cmdCancelar"));
-        botones->addWidget(cmdCancelar);
+        cmdCancelar = Boton(this, "cmdCancelar", "Cancelar");
         connect(cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
+        columna->addLayout(FilaBotones({cmdAceptar, cmdCancelar}));
+    } else {
+        columna->addLayout(FilaBotones({cmdAceptar}));
     }
-    columna->addLayout(botones);
 
     connect(chkAviso, &QCheckBox::clicked, this, [alMarcar](bool marcado) { alMarcar(!marcado); });
     connect(cmdAceptar, &QPushButton::clicked, this, &QDialog::accept);

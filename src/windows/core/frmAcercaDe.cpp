@@ -1,6 +1,7 @@
 #include "windows/core/frmAcercaDe.h"
 
 #include "core/core/version.h"
+#include "windows/core/controles.h"
 #include "windows/core/texto.h"
 
 #include <QHBoxLayout>
@@ -30,19 +31,14 @@ frmAcercaDe::frmAcercaDe(QWidget* padre) : QDialog(padre) {
                    this);
     lblDisclaimer->setObjectName(Q("lblDisclaimer"));
     lblDisclaimer->setWordWrap(true);
-    cmdAceptar = new QPushButton(Q("Aceptar"), this);
-    cmdAceptar->setObjectName(Q("cmdAceptar"));
-    cmdAceptar->setDefault(true);
+    cmdAceptar = BotonAceptar(this);
 
-    auto* botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(cmdAceptar);
     auto* columna = new QVBoxLayout(this);
     for (QWidget* w :
          std::initializer_list<QWidget*>{producto, lblModulo, lblVersion, lblDisclaimer}) {
         columna->addWidget(w);
     }
-    columna->addLayout(botones);
+    columna->addLayout(FilaBotones({cmdAceptar}));
     connect(cmdAceptar, &QPushButton::clicked, this, &QDialog::accept);
     setMinimumWidth(420);
     Cargado = true;

@@ -2,6 +2,7 @@
 
 #include "core/core/configuracion.h"
 #include "windows/core/ajustar_fuente.h"
+#include "windows/core/controles.h"
 #include "windows/core/texto.h"
 
 #include <QCheckBox>
@@ -36,23 +37,18 @@ frmPreferencias::frmPreferencias(QWidget* padre) : QDialog(padre) {
     cbbTamañoFuente->addItems({Q("Pequeña"), Q("Mediana"), Q("Grande")});
     cbbIdioma = Nombrado(new QComboBox(this), "cbbIdioma");
     cbbIdioma->addItem(Q("Español"));
-    cmdAceptar = Nombrado(new QPushButton(Q("Aceptar"), this), "cmdAceptar");
-    cmdCancelar = Nombrado(new QPushButton(Q("Cancelar"), this), "cmdCancelar");
-    cmdAceptar->setDefault(true);
+    cmdAceptar = BotonAceptar(this);
+    cmdCancelar = Boton(this, "cmdCancelar", "Cancelar");
 
     auto* formulario = new QFormLayout;
     formulario->addRow(Nombrado(new QLabel(Q("Tamaño de letra"), this), "lblTamañoFuente"),
                        cbbTamañoFuente);
     formulario->addRow(Nombrado(new QLabel(Q("Idioma"), this), "lblIdioma"), cbbIdioma);
-    auto* botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(cmdAceptar);
-    botones->addWidget(cmdCancelar);
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(chkMostrarInicio);
     columna->addWidget(chkVersionBeta);
     columna->addLayout(formulario);
-    columna->addLayout(botones);
+    columna->addLayout(FilaBotones({cmdAceptar, cmdCancelar}));
 
     // The language is a fixed display: never stored, never read.
     chkMostrarInicio->setChecked(c.MostrarInicio);

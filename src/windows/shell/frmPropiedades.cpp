@@ -1,6 +1,7 @@
 #include "windows/shell/frmPropiedades.h"
 
 #include "windows/core/ajustar_fuente.h"
+#include "windows/core/controles.h"
 #include "windows/core/texto.h"
 
 #include <QHBoxLayout>
@@ -12,18 +13,11 @@ namespace vadro {
 frmPropiedades::frmPropiedades(QWidget* padre) : QDialog(padre) {
     setObjectName(Q("frmPropiedades"));
     setWindowTitle(Q("Propiedades del modelo"));
-    cmdAceptar = new QPushButton(Q("Aceptar"), this);
-    cmdAceptar->setObjectName(Q("cmdAceptar"));
-    cmdAceptar->setDefault(true);
-    cmdCancelar = new QPushButton(Q("Cancelar"), this);
-    cmdCancelar->setObjectName(Q("cmdCancelar"));
-    auto* botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(cmdAceptar);
-    botones->addWidget(cmdCancelar);
+    cmdAceptar = BotonAceptar(this);
+    cmdCancelar = Boton(this, "cmdCancelar", "Cancelar");
     auto* columna = new QVBoxLayout(this);
     columna->addStretch();
-    columna->addLayout(botones);
+    columna->addLayout(FilaBotones({cmdAceptar, cmdCancelar}));
     resize(360, 120);
 
     connect(cmdAceptar, &QPushButton::clicked, this, &frmPropiedades::cmdAceptar_Click);

@@ -1,5 +1,6 @@
 #include "windows/trees/ventana_diseno.h"
 
+#include "windows/core/controles.h"
 #include "windows/core/texto.h"
 
 #include <QHBoxLayout>
@@ -11,14 +12,10 @@ namespace vadro {
 
 VentanaDiseno::VentanaDiseno(frmPrincipal& principal, const char* nombre, const char* titulo)
     : VentanaHija(principal, nombre, titulo) {
-    cmdAceptar = new QPushButton(Q("Aceptar"), this);
-    cmdAceptar->setObjectName(Q("cmdAceptar"));
-    auto* botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(cmdAceptar);
+    cmdAceptar = Boton(this, "cmdAceptar", "Aceptar");
     auto* columna = new QVBoxLayout(this);
     columna->addStretch();
-    columna->addLayout(botones);
+    columna->addLayout(FilaBotones({cmdAceptar}));
     connect(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
 }
 

@@ -3,6 +3,7 @@
 #include "core/core/sesion.h"
 #include "core/shell/flujo_trabajo.h"
 #include "windows/core/ajustar_fuente.h"
+#include "windows/core/controles.h"
 #include "windows/core/texto.h"
 #include "windows/reports/frmResumen.h"
 #include "windows/shell/frmPrincipal.h"
@@ -23,15 +24,10 @@ frmPreguntarPonderacion::frmPreguntarPonderacion(frmPrincipal& principal)
                                   "árbol de requerimientos (funciones de valor, pesos...)"),
                                 this);
     chkVerPesos->setObjectName(Q("chkVerPesos"));
-    cmdAceptar = new QPushButton(Q("Aceptar"), this);
-    cmdAceptar->setObjectName(Q("cmdAceptar"));
-    cmdAceptar->setDefault(true);
-    auto* botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(cmdAceptar);
+    cmdAceptar = BotonAceptar(this);
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(chkVerPesos);
-    columna->addLayout(botones);
+    columna->addLayout(FilaBotones({cmdAceptar}));
 
     chkVerPesos->setChecked(SesionActual().modelo.PermisoUsuarioVer);
     connect(cmdAceptar, &QPushButton::clicked, this, &frmPreguntarPonderacion::cmdAceptar_Click);
