@@ -43,6 +43,15 @@ std::string ExtensionDe(const std::string& ruta) {
     return ruta.substr(punto + 1);
 }
 
+std::string MinusculasAscii(std::string texto) {
+    for (char& c : texto) {
+        if (c >= 'A' && c <= 'Z') {
+            c = static_cast<char>(c - 'A' + 'a');
+        }
+    }
+    return texto;
+}
+
 namespace {
 
 // A number as the user's locale prints it; this is the one place that asks the locale.

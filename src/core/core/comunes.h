@@ -14,6 +14,10 @@ std::string DirectorioDe(const std::string& ruta);
 std::string NombreSinExtension(const std::string& ruta);
 std::string ExtensionDe(const std::string& ruta);
 
+// The text with its letters A to Z in lower case; other characters as they stand, whatever the
+// locale.
+std::string MinusculasAscii(std::string texto);
+
 // The decimal separator of the user's locale at the moment of the call: "." when 77.7 prints
 // with one, else ",". The second form prints 0.5 and takes its second character.
 std::string SeparadorDecimal();

@@ -1,13 +1,11 @@
 #include "core/shell/comandos_modelo.h"
 
 #include "core/core/archivos.h"
+#include "core/core/comunes.h"
 #include "core/core/error_ejecucion.h"
 #include "core/core/mensajes.h"
 #include "core/core/version.h"
 #include "core/files/modelo_archivo.h"
-
-#include <algorithm>
-#include <cctype>
 
 namespace vadro {
 
@@ -17,14 +15,9 @@ constexpr const char* kCarpetaProyectos = "Archivos de proyecto";
 constexpr const char* kFiltroModelo = "Archivos de modelo (*.vdm)|*.vdm";
 constexpr const char* kTituloGuardarComo = "Guardar modelo como...";
 
-std::string Minusculas(std::string texto) {
-    std::transform(texto.begin(), texto.end(), texto.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return texto;
-}
-
-// The folder and the name of a path, in UTF-8.
-std::string DirectorioDe(const std::string& archivo) {
+// The folder, name and extension of a path the user typed, which may lack a folder or an
+// extension: unlike the dialog-path routines these give the empty text instead of failing.
+std::string CarpetaDe(const std::string& archivo) {
     const std::string normal = NormalizarRuta(archivo);
     const auto corte = normal.rfind(SeparadorRuta());
     return corte == std::string::npos ? std::string() : normal.substr(0, corte);
@@ -36,7 +29,7 @@ std::string NombreDe(const std::string& archivo) {
     return corte == std::string::npos ? normal : normal.substr(corte + 1);
 }
 
-std::string ExtensionDe(const std::string& archivo) {
+std::string ExtensionDeNombre(const std::string& archivo) {
     const std::string nombre = NombreDe(archivo);
     const auto punto = nombre.rfind('.');
     return punto == std::string::npos ? std::string() : nombre.substr(punto + 1);
@@ -90,14 +83,14 @@ PeticionDialogo PeticionGuardarModelo(const std::string& archivo,
     } else if (nombreCompleto) {
         peticion.nombreArchivo = NormalizarRuta(archivo);
     } else {
-        peticion.directorioInicial = DirectorioDe(archivo);
+        peticion.directorioInicial = CarpetaDe(archivo);
         peticion.nombreArchivo = NombreDe(archivo);
     }
     return peticion;
 }
 
 bool NecesitaNombre(const std::string& archivo) {
-    return archivo.empty() || Minusculas(ExtensionDe(archivo)) == "vdc";
+    return archivo.empty() || MinusculasAscii(ExtensionDeNombre(archivo)) == "vdc";
 }
 
 bool ElegirArchivoModelo(Modelo& modelo, const std::string& directorioPrograma,

@@ -1,9 +1,8 @@
 #include "core/shell/flujo_trabajo.h"
 
-#include "core/core/mensajes.h"
+#include "core/core/comunes.h"
 
-#include <algorithm>
-#include <cctype>
+#include "core/core/mensajes.h"
 
 namespace vadro {
 
@@ -16,10 +15,7 @@ constexpr const char* kQueHacerAhora =
 } // namespace
 
 std::string TextoPosicion(const std::string& posicion) {
-    std::string minusculas = posicion;
-    std::transform(minusculas.begin(), minusculas.end(), minusculas.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return "Posición: " + minusculas;
+    return "Posición: " + MinusculasAscii(posicion);
 }
 
 bool PreguntarCompilarAlFinal(const Modelo& modelo) {
