@@ -12,6 +12,7 @@ std::string DescripcionError(int numero) {
         {ErrSubindice, "El subíndice está fuera del intervalo"},
         {ErrDivisionCero, "División por cero"},
         {ErrTipos, "No coinciden los tipos"},
+        {ErrInterno, "Error interno"},
         {ErrNombreArchivo, "Nombre o número de archivo incorrecto"},
         {ErrArchivoNoEncontrado, "No se encontró el archivo"},
         {ErrArchivoAbierto, "El archivo ya está abierto"},

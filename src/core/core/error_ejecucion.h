@@ -14,6 +14,7 @@ enum CodigoError : int {
     ErrSubindice = 9,
     ErrDivisionCero = 11,
     ErrTipos = 13,
+    ErrInterno = 51,
     ErrNombreArchivo = 52,
     ErrArchivoNoEncontrado = 53,
     ErrArchivoAbierto = 55,

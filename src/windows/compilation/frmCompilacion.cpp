@@ -4,8 +4,8 @@
 
 namespace vadro {
 
-frmCompilacion::frmCompilacion(frmPrincipal& principal)
-    : VentanaHija(principal, "frmCompilacion", "Compilación") {
+frmCompilacion::frmCompilacion(QWidget* padre)
+    : VentanaHija(Hija::Compilacion, "Compilación", padre) {
     AjustarControles();
 }
 

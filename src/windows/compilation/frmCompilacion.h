@@ -9,7 +9,7 @@ namespace vadro {
 class frmCompilacion : public VentanaHija {
     Q_OBJECT
 public:
-    explicit frmCompilacion(frmPrincipal& principal);
+    explicit frmCompilacion(QWidget* padre = nullptr);
 
     void Colocar(QMdiSubWindow& marco, const QRect& cliente) override;
     bool OcupaCliente() const override { return false; }

@@ -1,5 +1,6 @@
 #include "windows/core/dialogo_aviso.h"
 
+#include "windows/core/conectar.h"
 #include "windows/core/controles.h"
 #include "windows/core/texto.h"
 
@@ -30,14 +31,14 @@ DialogoAviso::DialogoAviso(const QStringList& textos, std::function<void(bool mo
     cmdAceptar = BotonAceptar(this);
     if (conCancelar) {
         cmdCancelar = Boton(this, "cmdCancelar", "Cancelar");
-        connect(cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
+        Conectar(cmdCancelar, &QPushButton::clicked, this, [this] { reject(); });
         columna->addLayout(FilaBotones({cmdAceptar, cmdCancelar}));
     } else {
         columna->addLayout(FilaBotones({cmdAceptar}));
     }
 
-    connect(chkAviso, &QCheckBox::clicked, this, [alMarcar](bool marcado) { alMarcar(!marcado); });
-    connect(cmdAceptar, &QPushButton::clicked, this, &QDialog::accept);
+    Conectar(chkAviso, &QCheckBox::clicked, this, [alMarcar](bool marcado) { alMarcar(!marcado); });
+    Conectar(cmdAceptar, &QPushButton::clicked, this, [this] { accept(); });
     setMinimumWidth(420);
     Cargado = true;
 }

@@ -1,6 +1,7 @@
 #include "windows/core/frmAcercaDe.h"
 
 #include "core/core/version.h"
+#include "windows/core/conectar.h"
 #include "windows/core/controles.h"
 #include "windows/core/texto.h"
 
@@ -39,7 +40,7 @@ frmAcercaDe::frmAcercaDe(QWidget* padre) : QDialog(padre) {
         columna->addWidget(w);
     }
     columna->addLayout(FilaBotones({cmdAceptar}));
-    connect(cmdAceptar, &QPushButton::clicked, this, &QDialog::accept);
+    Conectar(cmdAceptar, &QPushButton::clicked, this, [this] { accept(); });
     setMinimumWidth(420);
     Cargado = true;
 }

@@ -1,6 +1,7 @@
 #include "windows/core/frmInicio.h"
 
 #include "core/core/configuracion.h"
+#include "windows/core/conectar.h"
 #include "windows/core/texto.h"
 
 #include <QCheckBox>
@@ -55,10 +56,10 @@ frmInicio::frmInicio(std::function<void()> nuevo, std::function<void()> abrir, Q
     rejilla->addWidget(cmdExistente, 2, 1);
     rejilla->addWidget(chkNoMostrar, 3, 0, 1, 2);
 
-    connect(cmdNuevo, &QPushButton::clicked, this, [nuevo = std::move(nuevo)] { nuevo(); });
-    connect(cmdExistente, &QPushButton::clicked, this, [abrir = std::move(abrir)] { abrir(); });
-    connect(chkNoMostrar, &QCheckBox::clicked, this,
-            [](bool marcado) { GuardarMostrarInicio(SesionActual(), !marcado); });
+    Conectar(cmdNuevo, &QPushButton::clicked, this, [nuevo = std::move(nuevo)] { nuevo(); });
+    Conectar(cmdExistente, &QPushButton::clicked, this, [abrir = std::move(abrir)] { abrir(); });
+    Conectar(chkNoMostrar, &QCheckBox::clicked, this,
+             [](bool marcado) { GuardarMostrarInicio(SesionActual(), !marcado); });
     Cargado = true;
     Instancia() = this;
 }

@@ -2,6 +2,7 @@
 
 #include "core/core/configuracion.h"
 #include "windows/core/ajustar_fuente.h"
+#include "windows/core/conectar.h"
 #include "windows/core/controles.h"
 #include "windows/core/texto.h"
 
@@ -57,8 +58,8 @@ frmPreferencias::frmPreferencias(QWidget* padre) : QDialog(padre) {
                                                                                 : -1);
     cbbIdioma->setCurrentIndex(0);
 
-    connect(cmdAceptar, &QPushButton::clicked, this, &frmPreferencias::cmdAceptar_Click);
-    connect(cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
+    Conectar(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
+    Conectar(cmdCancelar, &QPushButton::clicked, this, [this] { reject(); });
     Cargado = true;
     AjustarControles();
 }

@@ -2,8 +2,8 @@
 
 namespace vadro {
 
-frmInforme::frmInforme(frmPrincipal& principal)
-    : VentanaHija(principal, "frmInforme", "Informe final") {
+frmInforme::frmInforme(QWidget* padre)
+    : VentanaHija(Hija::Informe, "Informe final", padre) {
     AjustarControles();
 }
 

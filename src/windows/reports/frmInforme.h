@@ -9,7 +9,7 @@ namespace vadro {
 class frmInforme : public VentanaHija {
     Q_OBJECT
 public:
-    explicit frmInforme(frmPrincipal& principal);
+    explicit frmInforme(QWidget* padre = nullptr);
 };
 
 } // namespace vadro

@@ -4,15 +4,12 @@
 
 namespace vadro {
 
-// The window of the position "Resumen": the model at a glance. Its trees and its list come
-// with the window's own content.
+// The window of the position "Resumen": the summary of the model. Its frames come with the
+// window's own content.
 class frmResumen : public VentanaHija {
     Q_OBJECT
 public:
-    explicit frmResumen(frmPrincipal& principal);
-
-protected:
-    void AlDescargar() override;
+    explicit frmResumen(QWidget* padre = nullptr);
 };
 
 } // namespace vadro

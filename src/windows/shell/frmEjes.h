@@ -9,17 +9,15 @@ namespace vadro {
 class frmEjes : public VentanaHija {
     Q_OBJECT
 public:
-    explicit frmEjes(frmPrincipal& principal);
+    explicit frmEjes(QWidget* padre = nullptr);
 
-    void AbrirRequerimientos();
-    void AbrirComponentes();
-    void AbrirEtapas();
+    // A design window that is open already comes to the front; none is loaded twice.
+    void AbrirRequerimientos() { emit PideVentana(Hija::Requerimientos); }
+    void AbrirComponentes() { emit PideVentana(Hija::Componentes); }
+    void AbrirEtapas() { emit PideVentana(Hija::Etapas); }
 
     void Colocar(QMdiSubWindow& marco, const QRect& cliente) override;
     bool OcupaCliente() const override { return false; }
-
-protected:
-    void AlDescargar() override;
 };
 
 } // namespace vadro

@@ -1,13 +1,14 @@
 #include "windows/shell/frmPrincipal.h"
 
 #include "core/core/dialogos.h"
-#include "core/core/error_ejecucion.h"
+#include "core/core/limite_fallos.h"
 #include "core/core/sesion.h"
 #include "core/files/modelo_archivo.h"
 #include "core/shell/comandos_modelo.h"
 #include "core/shell/flujo_trabajo.h"
 #include "windows/compilation/frmCompilacion.h"
 #include "windows/core/ajustar_fuente.h"
+#include "windows/core/conectar.h"
 #include "windows/core/frmAcercaDe.h"
 #include "windows/core/frmInicio.h"
 #include "windows/core/frmPreferencias.h"
@@ -45,21 +46,6 @@ namespace vadro {
 namespace {
 
 constexpr const char* kTitulo = "VADRO PROGRAMADOR";
-
-// The captions of the step panel, by index: headings at 0, 5 and 7.
-constexpr std::array<const char*, 9> kPasos = {"Definición del sistema",
-                                               "Requerimientos",
-                                               "Componentes",
-                                               "Ciclo de vida",
-                                               "Resumen",
-                                               "Ponderación de elementos del árbol",
-                                               "Pesos",
-                                               "Control",
-                                               "Compilación"};
-
-constexpr bool EsEncabezado(int indice) {
-    return indice == 0 || indice == 5 || indice == 7;
-}
 
 // The picture behind a child window.
 class Fondo : public QWidget {
@@ -155,11 +141,12 @@ frmPrincipal::frmPrincipal(QWidget* padre) : QMainWindow(padre) {
     tmrAutoguardado->setInterval(1000);
 
     // Before a model is open: no panel, no way along the line, no design group, no model menu.
-    pctPrincipal->hide();
-    Boton(8)->setEnabled(false);
-    Boton(9)->setEnabled(false);
-    GrupoDiseno(false);
-    mnuModelo->menuAction()->setVisible(false);
+    Ajuste escritorioVacio;
+    escritorioVacio.panel = false;
+    escritorioVacio.botonRetroceder = escritorioVacio.botonContinuar = false;
+    escritorioVacio.grupoDiseno = false;
+    escritorioVacio.menuModelo = false;
+    AplicarAjuste(escritorioVacio);
 
     // The window never starts larger than the screen.
     resize(1024, 720);
@@ -178,8 +165,8 @@ void frmPrincipal::CrearPanelPasos() {
     pctPrincipal->setFixedWidth(230);
     auto* columna = new QVBoxLayout(pctPrincipal);
     columna->setSpacing(4);
-    for (int i = 0; i < static_cast<int>(kPasos.size()); ++i) {
-        auto* etiqueta = new EtiquetaPaso(Q(kPasos[static_cast<std::size_t>(i)]), pctPrincipal);
+    for (int i = 0; i < kNumEtiquetas; ++i) {
+        auto* etiqueta = new EtiquetaPaso(Q(TextoEtiqueta(i)), pctPrincipal);
         etiqueta->setObjectName(Q("lblMenu(" + std::to_string(i) + ")"));
         etiqueta->setWordWrap(true);
         if (EsEncabezado(i)) {
@@ -200,7 +187,7 @@ void frmPrincipal::CrearPanelPasos() {
             etiqueta->setIndent(16);
             etiqueta->setCursor(Qt::PointingHandCursor);
         }
-        connect(etiqueta, &EtiquetaPaso::Pulsada, this, [this, i] { lblMenu_Click(i); });
+        Conectar(etiqueta, &EtiquetaPaso::Pulsada, this, [this, i] { lblMenu_Click(i); });
         columna->addWidget(etiqueta);
         lblMenu[static_cast<std::size_t>(i)] = etiqueta;
     }
@@ -215,14 +202,14 @@ void frmPrincipal::CrearPanelPasos() {
     botones->addWidget(cmdRetroceder);
     botones->addWidget(cmdContinuar);
     columna->addLayout(botones);
-    connect(cmdRetroceder, &QPushButton::clicked, this, &frmPrincipal::Retroceder);
-    connect(cmdContinuar, &QPushButton::clicked, this, &frmPrincipal::Continuar);
+    Conectar(cmdRetroceder, &QPushButton::clicked, this, [this] { Retroceder(); });
+    Conectar(cmdContinuar, &QPushButton::clicked, this, [this] { Continuar(); });
 
     // The steps a new model has not yet satisfied: its weights and its compilation.
-    for (int i : {1, 2, 3, 6, 8}) {
+    for (int i : {EtqRequerimientos, EtqComponentes, EtqCicloVida, EtqPesos, EtqCompilacion}) {
         MarcarPaso(i, false);
     }
-    MarcarPaso(4, true);
+    MarcarPaso(EtqResumen, true);
 }
 
 void frmPrincipal::CrearBarraHerramientas() {
@@ -266,8 +253,8 @@ void frmPrincipal::CrearBarraHerramientas() {
         }
         botones_.push_back(boton);
     }
-    connect(tlbPrincipal, &QToolBar::actionTriggered, this,
-            [this](QAction* boton) { tlbPrincipal_ButtonClick(boton->data().toString()); });
+    Conectar(tlbPrincipal, &QToolBar::actionTriggered, this,
+             [this](QAction* boton) { tlbPrincipal_ButtonClick(boton->data().toString()); });
 }
 
 void frmPrincipal::CrearMenus() {
@@ -348,29 +335,33 @@ void frmPrincipal::CrearMenusArbol() {
 }
 
 void frmPrincipal::ConectarMenus() {
-    connect(mnuNuevo, &QAction::triggered, this, &frmPrincipal::Nuevo);
-    connect(mnuAbrir, &QAction::triggered, this, &frmPrincipal::Abrir);
-    connect(mnuGuardar, &QAction::triggered, this, &frmPrincipal::Guardar);
-    connect(mnuGuardarComo, &QAction::triggered, this, &frmPrincipal::GuardarComo);
-    connect(mnuImprimir, &QAction::triggered, this, &frmPrincipal::Imprimir);
-    connect(mnuPreferencias, &QAction::triggered, this, [this] {
+    const auto orden = [this](QAction* entrada, Comando comando) {
+        Conectar(entrada, &QAction::triggered, this, [this, comando] { Ejecutar(comando); });
+    };
+    orden(mnuNuevo, Comando::Nuevo);
+    orden(mnuAbrir, Comando::Abrir);
+    orden(mnuGuardar, Comando::Guardar);
+    Conectar(mnuGuardarComo, &QAction::triggered, this, [this] { GuardarComo(); });
+    orden(mnuImprimir, Comando::Imprimir);
+    Conectar(mnuPreferencias, &QAction::triggered, this, [this] {
         frmPreferencias preferencias(this);
         MostrarModal(preferencias);
     });
-    connect(mnuSalir, &QAction::triggered, this, &QWidget::close);
+    Conectar(mnuSalir, &QAction::triggered, this, [this] { close(); });
     // The permission of subcriteria follows the model until its command asks about it.
-    connect(mnuPermitirSubcriterios, &QAction::triggered, this,
-            [this] { mnuPermitirSubcriterios->setChecked(SesionActual().modelo.ConSubcriterios); });
-    connect(mnuRequerimientos, &QAction::triggered, this, &frmPrincipal::AbrirRequerimientos);
-    connect(mnuComponentes, &QAction::triggered, this, &frmPrincipal::AbrirComponentes);
-    connect(mnuEtapas, &QAction::triggered, this, &frmPrincipal::AbrirEtapas);
-    connect(mnuCompilar, &QAction::triggered, this, &frmPrincipal::Compilar);
-    connect(mnuPropiedades, &QAction::triggered, this, [this] {
+    Conectar(mnuPermitirSubcriterios, &QAction::triggered, this, [this] {
+        mnuPermitirSubcriterios->setChecked(SesionActual().modelo.ConSubcriterios);
+    });
+    orden(mnuRequerimientos, Comando::Requerimientos);
+    orden(mnuComponentes, Comando::Componentes);
+    orden(mnuEtapas, Comando::Etapas);
+    orden(mnuCompilar, Comando::Compilar);
+    Conectar(mnuPropiedades, &QAction::triggered, this, [this] {
         frmPropiedades propiedades(this);
         MostrarModal(propiedades);
     });
-    connect(mnuOrganizar, &QAction::triggered, mdiCliente, &QMdiArea::cascadeSubWindows);
-    connect(mnuAcercaDe, &QAction::triggered, this, [this] {
+    Conectar(mnuOrganizar, &QAction::triggered, this, [this] { Organizar(); });
+    Conectar(mnuAcercaDe, &QAction::triggered, this, [this] {
         frmAcercaDe acercaDe(this);
         MostrarModal(acercaDe);
     });
@@ -388,7 +379,7 @@ void frmPrincipal::Nuevo() {
         return;
     }
     InicializarModelo(modelo);
-    for (int i : {1, 2, 3}) {
+    for (int i : {EtqRequerimientos, EtqComponentes, EtqCicloVida}) {
         MarcarPaso(i, false);
     }
     setWindowTitle(Q(kTitulo) + Q(" - [...]"));
@@ -398,13 +389,14 @@ void frmPrincipal::Nuevo() {
         frmPropiedades propiedades(this);
         MostrarModal(propiedades);
     }
-    Cargar<frmEjes>();
-    mnuModelo->menuAction()->setVisible(true);
-    Boton(8)->setEnabled(false);
-    Boton(9)->setEnabled(true);
-    GrupoDiseno(true);
-    posicion_ = kPosicionEjes;
-    EscribirPosicion();
+    Transicion abrir;
+    abrir.ajuste.menuModelo = true;
+    abrir.ajuste.botonRetroceder = false;
+    abrir.ajuste.botonContinuar = true;
+    abrir.ajuste.grupoDiseno = true;
+    abrir.cargar = {Hija::Ejes};
+    abrir.destino = vadro::Posicion::Ejes;
+    Aplicar(abrir);
 }
 
 void frmPrincipal::Abrir() {
@@ -446,9 +438,9 @@ void frmPrincipal::Compilar() {
     if (!ModeloCompilable(SesionActual().modelo)) {
         return;
     }
-    PintarEtiqueta(8, QColor(0, 0, 0), false);
-    Descargar<frmCompilacion>();
-    Cargar<frmCompilacion>();
+    PintarEtiqueta(EtqCompilacion, QColor(0, 0, 0), false);
+    Descargar(Hija::Compilacion);
+    Cargar(Hija::Compilacion);
 }
 
 void frmPrincipal::Imprimir() {
@@ -463,192 +455,137 @@ void frmPrincipal::TituloConArchivo(const std::string& archivo) {
 // ---- The line of positions
 
 void frmPrincipal::Continuar() {
-    if (posicion_ == kPosicionEjes) {
-        AjusteRevision();
-        AceptarVentanasDiseno();
-        Descargar<frmEjes>();
-        Cargar<frmResumen>();
-        posicion_ = kPosicionResumen;
-    } else if (posicion_ == kPosicionResumen) {
-        AjusteRevision();
-        mnuImportar->menuAction()->setEnabled(false);
-        // The dialog finishes the step when it is accepted.
-        frmPreguntarPonderacion pregunta(*this);
-        MostrarModal(pregunta);
-    } else if (posicion_ == kPosicionPonderacion) {
-        AjusteRevision();
-        Descargar<frmPonderacion>();
-        Cargar<frmInforme>();
-        posicion_ = kPosicionInforme;
-    } else if (posicion_ == kPosicionInforme) {
-        FinalDeModelo();
-    }
-    EscribirPosicion();
-}
-
-void frmPrincipal::FinalDeModelo() {
-    if (!PreguntarCompilarAlFinal(SesionActual().modelo)) {
-        return;
-    }
-    AjusteRevision();
-    cmdContinuar->setEnabled(false);
-    Boton(9)->setEnabled(false);
-    Compilar();
+    Aplicar(TransicionContinuar(posicion_));
 }
 
 void frmPrincipal::Retroceder() {
-    if (posicion_ == kPosicionInforme) {
-        AjusteRevision();
-        Descargar<frmInforme>();
-        // A model without requirements has nothing to weigh: the line skips the weights.
-        if (HayElementos(SesionActual().modelo.NumRequerimientos)) {
-            Cargar<frmPonderacion>();
-            posicion_ = kPosicionPonderacion;
-        } else {
-            Cargar<frmResumen>();
-            posicion_ = kPosicionResumen;
-        }
-    } else if (posicion_ == kPosicionPonderacion) {
-        AjusteRevision();
-        mnuImportar->menuAction()->setEnabled(true);
-        Descargar<frmPonderacion>();
-        Cargar<frmResumen>();
-        posicion_ = kPosicionResumen;
-    } else if (posicion_ == kPosicionResumen) {
-        AjusteDiseno();
-        Descargar<frmResumen>();
-        Cargar<frmEjes>();
-        posicion_ = kPosicionEjes;
-    } else if (posicion_ == kPosicionEjes) {
-        // Back to the empty desk: the design windows go unaccepted and the position stays.
-        EntradasDiseno(false);
-        cmdRetroceder->setEnabled(false);
-        cmdContinuar->setEnabled(false);
-        Boton(8)->setEnabled(false);
-        Boton(9)->setEnabled(false);
-        DescargarVentanasDiseno();
-        Descargar<frmEjes>();
-        pctPrincipal->hide();
-    }
-    EscribirPosicion();
+    Aplicar(TransicionRetroceder(posicion_, SesionActual().modelo));
 }
 
 void frmPrincipal::lblMenu_Click(int indice) {
-    switch (indice) {
-    case 1:
-        AbrirRequerimientos();
-        break;
-    case 2:
-        AbrirComponentes();
-        break;
-    case 3:
-        AbrirEtapas();
-        break;
-    case 4:
-        SaltarAResumen();
-        break;
-    case 6:
-        SaltarAPonderacion();
-        break;
-    case 8:
-        Compilar();
-        break;
-    default: // the headings do nothing
-        break;
-    }
-}
-
-// The jumps of the step panel do not look at the position.
-void frmPrincipal::SaltarAResumen() {
-    EntradasDiseno(false);
-    Boton(8)->setEnabled(true);
-    Boton(9)->setEnabled(true);
-    GrupoDiseno(false);
-    AceptarVentanasDiseno();
-    Descargar<frmPonderacion>();
-    Descargar<frmEjes>();
-    pctFondo->hide();
-    Cargar<frmResumen>();
-    posicion_ = kPosicionResumen;
-    EscribirPosicion();
-}
-
-void frmPrincipal::SaltarAPonderacion() {
-    AjusteRevision();
-    mnuImportar->menuAction()->setEnabled(false);
-    Descargar<frmResumen>();
-    Cargar<frmPonderacion>();
-    posicion_ = kPosicionPonderacion;
-    EscribirPosicion();
+    Ejecutar(ComandoDeEtiqueta(indice));
 }
 
 void frmPrincipal::tlbPrincipal_ButtonClick(const QString& clave) {
-    const std::string tecla = ACadena(clave);
-    if (tecla == "Nuevo") {
-        Nuevo();
-    } else if (tecla == "Abrir") {
-        Abrir();
-    } else if (tecla == "Guardar") {
-        Guardar();
-    } else if (tecla == "Imprimir") {
-        Imprimir();
-    } else if (tecla == "Retroceder") {
-        Retroceder();
-    } else if (tecla == "Continuar") {
-        Continuar();
-    } else if (tecla == "Requerimientos") {
-        AbrirRequerimientos();
-    } else if (tecla == "Alternativas") {
-        AbrirComponentes();
-    } else if (tecla == "Tiempo") {
-        AbrirEtapas();
-    } else if (tecla == "Compilar") {
-        Compilar();
+    Ejecutar(ComandoDeBoton(ACadena(clave)));
+}
+
+void frmPrincipal::Ejecutar(Comando comando) {
+    switch (comando) {
+    case Comando::Nuevo:
+        return Nuevo();
+    case Comando::Abrir:
+        return Abrir();
+    case Comando::Guardar:
+        return Guardar();
+    case Comando::Imprimir:
+        return Imprimir();
+    case Comando::Retroceder:
+        return Retroceder();
+    case Comando::Continuar:
+        return Continuar();
+    case Comando::Requerimientos:
+        return AbrirRequerimientos();
+    case Comando::Componentes:
+        return AbrirComponentes();
+    case Comando::Etapas:
+        return AbrirEtapas();
+    case Comando::Compilar:
+        return Compilar();
+    case Comando::SaltarAResumen:
+        return Aplicar(TransicionSaltoResumen());
+    case Comando::SaltarAPonderacion:
+        return Aplicar(TransicionSaltoPonderacion());
+    case Comando::Ninguno:
+        break;
     }
+}
+
+void frmPrincipal::Aplicar(const Transicion& transicion) {
+    AplicarAjuste(transicion.ajuste);
+    for (Hija hija : transicion.aceptar) {
+        AceptarDiseno(hija);
+    }
+    for (Hija hija : transicion.descargar) {
+        Descargar(hija);
+    }
+    if (transicion.ajuste.fondo) {
+        pctFondo->setVisible(*transicion.ajuste.fondo);
+    }
+    for (Hija hija : transicion.cargar) {
+        Cargar(hija);
+    }
+    if (transicion.destino) {
+        posicion_ = *transicion.destino;
+    }
+    if (transicion.preguntarPermisos) {
+        PreguntarPermisos();
+    }
+    if (transicion.finalDeLinea) {
+        FinalDeLinea();
+    }
+    EscribirPosicion();
+}
+
+void frmPrincipal::AplicarAjuste(const Ajuste& ajuste) {
+    const auto poner = [](const std::optional<bool>& valor, auto&& accion) {
+        if (valor) {
+            accion(*valor);
+        }
+    };
+    poner(ajuste.entradasDiseno, [this](bool si) {
+        for (QAction* entrada :
+             {mnuConfiguracionEjes, mnuRequerimientos, mnuComponentes, mnuEtapas}) {
+            entrada->setEnabled(si);
+        }
+    });
+    poner(ajuste.cmdRetroceder, [this](bool si) { cmdRetroceder->setEnabled(si); });
+    poner(ajuste.botonRetroceder, [this](bool si) { Boton(BtnRetroceder)->setEnabled(si); });
+    poner(ajuste.cmdContinuar, [this](bool si) { cmdContinuar->setEnabled(si); });
+    poner(ajuste.botonContinuar, [this](bool si) { Boton(BtnContinuar)->setEnabled(si); });
+    poner(ajuste.grupoDiseno, [this](bool si) {
+        for (int i = BtnPrimeroDiseno; i <= BtnUltimoDiseno; ++i) {
+            Boton(i)->setVisible(si);
+        }
+    });
+    poner(ajuste.importar, [this](bool si) { mnuImportar->menuAction()->setEnabled(si); });
+    poner(ajuste.panel, [this](bool si) { pctPrincipal->setVisible(si); });
+    poner(ajuste.menuModelo, [this](bool si) { mnuModelo->menuAction()->setVisible(si); });
+}
+
+void frmPrincipal::PreguntarPermisos() {
+    frmPreguntarPonderacion pregunta(this);
+    if (MostrarModal(pregunta) == QDialog::Accepted) {
+        Aplicar(TransicionTrasPermisos());
+    }
+}
+
+void frmPrincipal::FinalDeLinea() {
+    if (!PreguntarCompilarAlFinal(SesionActual().modelo)) {
+        return;
+    }
+    Aplicar(TransicionCompilarAlFinal());
+    Compilar();
 }
 
 // The design windows open from the axes window; from another position the step panel opens
 // them without bringing that window back.
 void frmPrincipal::AbrirRequerimientos() {
-    if (frmEjes* ejes = Abierta<frmEjes>()) {
-        ejes->AbrirRequerimientos();
-    } else {
-        Cargar<frmRequerimientos>();
-    }
+    Cargar(Hija::Requerimientos);
 }
 
 void frmPrincipal::AbrirComponentes() {
-    if (frmEjes* ejes = Abierta<frmEjes>()) {
-        ejes->AbrirComponentes();
-    } else {
-        Cargar<frmComponentes>();
-    }
+    Cargar(Hija::Componentes);
 }
 
 void frmPrincipal::AbrirEtapas() {
-    if (frmEjes* ejes = Abierta<frmEjes>()) {
-        ejes->AbrirEtapas();
-    } else {
-        Cargar<frmEtapas>();
-    }
+    Cargar(Hija::Etapas);
 }
 
-void frmPrincipal::AceptarVentanasDiseno() {
-    if (frmComponentes* componentes = Abierta<frmComponentes>()) {
-        componentes->cmdAceptar_Click();
+void frmPrincipal::AceptarDiseno(Hija hija) {
+    if (auto* diseno = dynamic_cast<VentanaDiseno*>(Abierta(hija))) {
+        diseno->cmdAceptar_Click();
     }
-    if (frmRequerimientos* requerimientos = Abierta<frmRequerimientos>()) {
-        requerimientos->cmdAceptar_Click();
-    }
-    if (frmEtapas* etapas = Abierta<frmEtapas>()) {
-        etapas->cmdAceptar_Click();
-    }
-}
-
-void frmPrincipal::DescargarVentanasDiseno() {
-    Descargar<frmComponentes>();
-    Descargar<frmRequerimientos>();
-    Descargar<frmEtapas>();
 }
 
 void frmPrincipal::DescargarTodas() {
@@ -664,37 +601,19 @@ void frmPrincipal::DescargarTodas() {
     }
 }
 
-// ---- Settings, labels and the status bar
-
-void frmPrincipal::AjusteDiseno() {
-    EntradasDiseno(true);
-    cmdRetroceder->setEnabled(false);
-    Boton(8)->setEnabled(false);
-    cmdContinuar->setEnabled(true);
-    Boton(9)->setEnabled(true);
-    GrupoDiseno(true);
-}
-
-void frmPrincipal::AjusteRevision() {
-    EntradasDiseno(false);
-    cmdRetroceder->setEnabled(true);
-    cmdContinuar->setEnabled(true);
-    Boton(8)->setEnabled(true);
-    Boton(9)->setEnabled(true);
-    GrupoDiseno(false);
-}
-
-void frmPrincipal::EntradasDiseno(bool habilitadas) {
-    for (QAction* entrada : {mnuConfiguracionEjes, mnuRequerimientos, mnuComponentes, mnuEtapas}) {
-        entrada->setEnabled(habilitadas);
+void frmPrincipal::Organizar() {
+    // Cascaded windows keep a size that can be worked in: a third of the client area at the
+    // least, and never less than their own minimum.
+    mdiCliente->cascadeSubWindows();
+    const QSize cliente = mdiCliente->viewport()->size();
+    for (QMdiSubWindow* marco : mdiCliente->subWindowList()) {
+        const QSize minimo =
+            marco->minimumSizeHint().expandedTo(QSize(cliente.width() / 3, cliente.height() / 3));
+        marco->resize(marco->size().expandedTo(minimo).boundedTo(cliente));
     }
 }
 
-void frmPrincipal::GrupoDiseno(bool visible) {
-    for (int i = 10; i <= 13; ++i) {
-        Boton(i)->setVisible(visible);
-    }
-}
+// ---- Labels, buttons and the status bar
 
 QAction* frmPrincipal::Boton(int indice) const {
     return botones_.at(static_cast<std::size_t>(indice));
@@ -737,12 +656,91 @@ QString frmPrincipal::TextoEstado() const {
 
 // ---- Child windows
 
+namespace {
+
+VentanaHija* CrearHija(Hija hija) {
+    switch (hija) {
+    case Hija::Ejes:
+        return new frmEjes;
+    case Hija::Requerimientos:
+        return new frmRequerimientos;
+    case Hija::Componentes:
+        return new frmComponentes;
+    case Hija::Etapas:
+        return new frmEtapas;
+    case Hija::Resumen:
+        return new frmResumen;
+    case Hija::Ponderacion:
+        return new frmPonderacion;
+    case Hija::Informe:
+        return new frmInforme;
+    case Hija::Compilacion:
+        break;
+    }
+    return new frmCompilacion;
+}
+
+} // namespace
+
+VentanaHija* frmPrincipal::Abierta(Hija hija) const {
+    for (QMdiSubWindow* marco : mdiCliente->subWindowList()) {
+        if (auto* ventana = dynamic_cast<VentanaHija*>(marco->widget());
+            ventana != nullptr && ventana->Cargado && ventana->Identidad() == hija) {
+            return ventana;
+        }
+    }
+    return nullptr;
+}
+
+VentanaHija& frmPrincipal::Cargar(Hija hija) {
+    if (VentanaHija* abierta = Abierta(hija)) {
+        mdiCliente->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(abierta->parentWidget()));
+        return *abierta;
+    }
+    VentanaHija* ventana = CrearHija(hija);
+    Alojar(*ventana);
+    return *ventana;
+}
+
+void frmPrincipal::Descargar(Hija hija) {
+    if (VentanaHija* abierta = Abierta(hija)) {
+        abierta->Descargar();
+    }
+}
+
 void frmPrincipal::Alojar(VentanaHija& ventana) {
+    Conectar(&ventana, &VentanaHija::Descargada, this,
+             [this](Hija hija) { AplicarEfecto(EfectoAlDescargar(hija), false); });
+    Conectar(&ventana, &VentanaHija::PideVentana, this, [this](Hija hija) { Cargar(hija); });
+    Conectar(&ventana, &VentanaHija::MarcaPaso, this,
+             [this](int etiqueta, bool satisfecho) { MarcarPaso(etiqueta, satisfecho); });
+    Conectar(&ventana, &VentanaHija::Estado, this, [this](const QString& texto) {
+        if (texto.isEmpty()) {
+            EscribirPosicion();
+        } else {
+            EscribirEstado(texto);
+        }
+    });
+    AplicarEfecto(EfectoAlCargar(ventana.Identidad()), true);
     QMdiSubWindow* marco = mdiCliente->addSubWindow(&ventana);
+    marco->setAttribute(Qt::WA_DeleteOnClose);
     marco->setObjectName(ventana.objectName() + Q("_marco"));
     ventana.Colocar(*marco, mdiCliente->viewport()->rect());
     marco->show();
     ventana.AjustarControles();
+}
+
+void frmPrincipal::AplicarEfecto(const EfectoHija& efecto, bool alCargar) {
+    if (efecto.fondo) {
+        pctFondo->setVisible(*efecto.fondo);
+    }
+    if (efecto.etiquetaEnCurso >= 0) {
+        if (alCargar) {
+            PintarEtiqueta(efecto.etiquetaEnCurso, ColorNormal(), true);
+        } else {
+            EtiquetaNegrita(efecto.etiquetaEnCurso, false);
+        }
+    }
 }
 
 bool frmPrincipal::eventFilter(QObject* objeto, QEvent* evento) {
@@ -761,6 +759,16 @@ bool frmPrincipal::eventFilter(QObject* objeto, QEvent* evento) {
 
 // ---- Closing
 
+std::vector<Hija> frmPrincipal::HijasAbiertas() const {
+    std::vector<Hija> abiertas;
+    for (QMdiSubWindow* marco : mdiCliente->subWindowList()) {
+        if (auto* hija = dynamic_cast<VentanaHija*>(marco->widget()); hija && hija->Cargado) {
+            abiertas.push_back(hija->Identidad());
+        }
+    }
+    return abiertas;
+}
+
 bool frmPrincipal::CerrarHijas() {
     for (QMdiSubWindow* marco : mdiCliente->subWindowList()) {
         if (!marco->close()) {
@@ -771,49 +779,28 @@ bool frmPrincipal::CerrarHijas() {
 }
 
 void frmPrincipal::closeEvent(QCloseEvent* evento) {
-    // The child windows close first; if the close is refused, those of the position that
-    // were open come back.
-    const VentanasAbiertas abiertas{
-        Abierta<frmEjes>() != nullptr,        Abierta<frmRequerimientos>() != nullptr,
-        Abierta<frmComponentes>() != nullptr, Abierta<frmEtapas>() != nullptr,
-        Abierta<frmResumen>() != nullptr,     Abierta<frmPonderacion>() != nullptr};
-    const bool conPanel = pctPrincipal->isVisibleTo(this);
-    if (!CerrarHijas()) {
+    EjecutarProtegido([this, evento] {
+        // The child windows close first; if the close is refused, those of the position
+        // that were open come back.
+        const std::vector<Hija> abiertas = HijasAbiertas();
+        const bool conPanel = pctPrincipal->isVisibleTo(this);
         evento->ignore();
-        return;
-    }
-    pctFondo->hide();
-    pctPrincipal->hide();
-    Sesion& sesion = SesionActual();
-    if (!GuardarAlCerrar(sesion.modelo, sesion.DirectorioPrograma)) {
-        evento->ignore();
-        pctPrincipal->setVisible(conPanel);
-        RecargarPosicion(abiertas);
-        return;
-    }
-    Cargado = false;
-    QMainWindow::closeEvent(evento);
-}
-
-void frmPrincipal::RecargarPosicion(const VentanasAbiertas& abiertas) {
-    if (posicion_ == kPosicionEjes) {
-        if (abiertas.ejes) {
-            Cargar<frmEjes>();
+        if (!CerrarHijas()) {
+            return;
         }
-        if (abiertas.componentes) {
-            Cargar<frmComponentes>();
+        pctFondo->hide();
+        pctPrincipal->hide();
+        Sesion& sesion = SesionActual();
+        if (!GuardarAlCerrar(sesion.modelo, sesion.DirectorioPrograma)) {
+            pctPrincipal->setVisible(conPanel);
+            for (Hija hija : VentanasARecargar(posicion_, abiertas)) {
+                Cargar(hija);
+            }
+            return;
         }
-        if (abiertas.requerimientos) {
-            Cargar<frmRequerimientos>();
-        }
-        if (abiertas.etapas) {
-            Cargar<frmEtapas>();
-        }
-    } else if (posicion_ == kPosicionResumen && abiertas.resumen) {
-        Cargar<frmResumen>();
-    } else if (posicion_ == kPosicionPonderacion && abiertas.ponderacion) {
-        Cargar<frmPonderacion>();
-    }
+        Cargado = false;
+        evento->accept();
+    });
 }
 
 } // namespace vadro

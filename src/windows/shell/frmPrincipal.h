@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/shell/flujo_trabajo.h"
 #include "windows/core/ventana.h"
 #include "windows/shell/ventana_hija.h"
 
@@ -46,35 +47,33 @@ public:
     void Retroceder();
     void lblMenu_Click(int indice);
     void tlbPrincipal_ButtonClick(const QString& clave);
+    void Ejecutar(Comando comando);
 
     // The doors to the three design windows.
     void AbrirRequerimientos();
     void AbrirComponentes();
     void AbrirEtapas();
 
-    // "Ejes", "Resumen", "Ponderacion", "Informe"; empty before a model is open.
-    const std::string& Posicion() const { return posicion_; }
-    void FijarPosicion(const std::string& posicion) { posicion_ = posicion; }
+    // Ventana › Organizar: the child windows in cascade.
+    void Organizar();
+
+    // The position of the workflow; `Ninguna` before a model is open.
+    vadro::Posicion Posicion() const { return posicion_; }
 
     // Panel 1 of the status bar: the position, or a hint.
     void EscribirPosicion();
     void EscribirEstado(const QString& texto);
     QString TextoEstado() const;
 
-    // The two settings of the controls: A at the design of the system, B in review.
-    void AjusteDiseno();
-    void AjusteRevision();
-
     // Step labels: the normal look when the step is satisfied, red and bold when it is not.
     void MarcarPaso(int indice, bool satisfecho);
-    void PintarEtiqueta(int indice, const QColor& color, bool negrita);
-    void EtiquetaNegrita(int indice, bool negrita);
     QColor ColorNormal() const;
 
     // A toolbar button by its place, from 1, separators counted.
     QAction* Boton(int indice) const;
 
     // The child windows. A window is open while it is loaded: its `Cargado` flag says so.
+    VentanaHija* Abierta(Hija hija) const;
     template <typename T> T* Abierta() const {
         for (QMdiSubWindow* marco : mdiCliente->subWindowList()) {
             if (auto* ventana = dynamic_cast<T*>(marco->widget());
@@ -85,21 +84,9 @@ public:
         return nullptr;
     }
     // Loads a window, or brings it to the front when it is open already.
-    template <typename T> T& Cargar() {
-        if (T* abierta = Abierta<T>()) {
-            mdiCliente->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(abierta->parentWidget()));
-            return *abierta;
-        }
-        auto* ventana = new T(*this);
-        Alojar(*ventana);
-        return *ventana;
-    }
+    VentanaHija& Cargar(Hija hija);
     // Unloads a window if it is open.
-    template <typename T> void Descargar() {
-        if (T* abierta = Abierta<T>()) {
-            abierta->Descargar();
-        }
-    }
+    void Descargar(Hija hija);
 
     // Whether the notice before the first function drawing shows; for this session only.
     bool MostrarAvisoFuncionValor = true;
@@ -158,23 +145,22 @@ private:
     void CrearMenusArbol();
     void ConectarMenus();
 
+    // Applies one step of the workflow, in the order the step gives.
+    void Aplicar(const Transicion& transicion);
+    void AplicarAjuste(const Ajuste& ajuste);
+    void AplicarEfecto(const EfectoHija& efecto, bool alCargar);
+    void PreguntarPermisos();
+    void FinalDeLinea();
     void Alojar(VentanaHija& ventana);
-    void AceptarVentanasDiseno();
-    void DescargarVentanasDiseno();
+    void AceptarDiseno(Hija hija);
     void DescargarTodas();
-    void FinalDeModelo();
-    void SaltarAResumen();
-    void SaltarAPonderacion();
-    void EntradasDiseno(bool habilitadas);
-    void GrupoDiseno(bool visible);
+    void PintarEtiqueta(int indice, const QColor& color, bool negrita);
+    void EtiquetaNegrita(int indice, bool negrita);
     void TituloConArchivo(const std::string& archivo);
     bool CerrarHijas();
-    struct VentanasAbiertas {
-        bool ejes, requerimientos, componentes, etapas, resumen, ponderacion;
-    };
-    void RecargarPosicion(const VentanasAbiertas& abiertas);
+    std::vector<Hija> HijasAbiertas() const;
 
-    std::string posicion_;
+    vadro::Posicion posicion_ = vadro::Posicion::Ninguna;
     QLabel* panelEstado_;
     std::vector<QAction*> botones_;
 };

@@ -1,6 +1,7 @@
 #include "windows/shell/frmPropiedades.h"
 
 #include "windows/core/ajustar_fuente.h"
+#include "windows/core/conectar.h"
 #include "windows/core/controles.h"
 #include "windows/core/texto.h"
 
@@ -20,8 +21,8 @@ frmPropiedades::frmPropiedades(QWidget* padre) : QDialog(padre) {
     columna->addLayout(FilaBotones({cmdAceptar, cmdCancelar}));
     resize(360, 120);
 
-    connect(cmdAceptar, &QPushButton::clicked, this, &frmPropiedades::cmdAceptar_Click);
-    connect(cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
+    Conectar(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
+    Conectar(cmdCancelar, &QPushButton::clicked, this, [this] { reject(); });
     Cargado = true;
     AjustarControles();
 }

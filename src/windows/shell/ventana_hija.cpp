@@ -1,5 +1,6 @@
 #include "windows/shell/ventana_hija.h"
 
+#include "core/core/limite_fallos.h"
 #include "windows/core/ajustar_fuente.h"
 #include "windows/core/texto.h"
 
@@ -9,9 +10,9 @@
 
 namespace vadro {
 
-VentanaHija::VentanaHija(frmPrincipal& principal, const char* nombre, const char* titulo)
-    : principal_(principal) {
-    setObjectName(Q(nombre));
+VentanaHija::VentanaHija(Hija hija, const char* titulo, QWidget* padre)
+    : QWidget(padre), hija_(hija) {
+    setObjectName(Q(NombreHija(hija)));
     setWindowTitle(Q(titulo));
     setWindowIcon(style()->standardIcon(QStyle::SP_FileDialogInfoView));
     Cargado = true;
@@ -39,9 +40,16 @@ void VentanaHija::closeEvent(QCloseEvent* evento) {
         evento->accept();
         return;
     }
+    bool puede = true;
+    EjecutarProtegido([&] { puede = PuedeDescargarse(); });
+    if (!puede) {
+        evento->ignore();
+        return;
+    }
     Cargado = false;
-    AlDescargar();
+    EjecutarProtegido([this] { AlDescargar(); });
     evento->accept();
+    emit Descargada(hija_);
 }
 
 } // namespace vadro

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/shell/flujo_trabajo.h"
 #include "windows/core/ventana.h"
 
 #include <QWidget>
@@ -8,15 +9,16 @@ class QMdiSubWindow;
 
 namespace vadro {
 
-class frmPrincipal;
-
 // A child window of the main window: it lives in the client area between its load (the
-// constructor) and its unload (the close of its frame).
+// constructor) and its unload (the close of its frame). It never touches the main window:
+// it tells it what happened through its signals.
 class VentanaHija : public QWidget, public Ventana {
     Q_OBJECT
 public:
-    VentanaHija(frmPrincipal& principal, const char* nombre, const char* titulo);
+    VentanaHija(Hija hija, const char* titulo, QWidget* padre = nullptr);
     void AjustarControles() override;
+
+    Hija Identidad() const { return hija_; }
 
     // Where the window stands when it is loaded into the client area. The windows of the
     // positions fill it.
@@ -27,15 +29,25 @@ public:
     // Unloads the window, as the window itself or the main window asks.
     void Descargar();
 
-    frmPrincipal& Principal() const { return principal_; }
+signals:
+    // The window has unloaded.
+    void Descargada(vadro::Hija hija);
+    // Another child window should open, or come to the front when it is open.
+    void PideVentana(vadro::Hija hija);
+    // A step of the panel is satisfied or not.
+    void MarcaPaso(int etiqueta, bool satisfecho);
+    // A hint for panel 1 of the status bar; the empty text puts the position back.
+    void Estado(const QString& texto);
 
 protected:
-    // What the window does when it unloads, after `Cargado` has gone false.
+    // What the window does when it unloads, after `Cargado` has gone false. It may refuse,
+    // and the window stays.
+    virtual bool PuedeDescargarse() { return true; }
     virtual void AlDescargar() {}
     void closeEvent(QCloseEvent* evento) override;
 
 private:
-    frmPrincipal& principal_;
+    Hija hija_;
 };
 
 } // namespace vadro

@@ -2,17 +2,16 @@
 
 #include "core/core/sesion.h"
 #include "core/shell/flujo_trabajo.h"
-#include "windows/shell/frmPrincipal.h"
 
 namespace vadro {
 
-frmComponentes::frmComponentes(frmPrincipal& principal)
-    : VentanaDiseno(principal, "frmComponentes", "Arbol de componentes") {
+frmComponentes::frmComponentes(QWidget* padre)
+    : VentanaDiseno(Hija::Componentes, "Arbol de componentes", padre) {
     AjustarControles();
 }
 
 void frmComponentes::cmdAceptar_Click() {
-    Principal().MarcarPaso(2, HayElementos(SesionActual().modelo.NumComponentes));
+    emit MarcaPaso(EtqComponentes, HayElementos(SesionActual().modelo.NumComponentes));
     LlamaLlenarComponentes();
     Descargar();
 }

@@ -9,7 +9,7 @@ namespace vadro {
 class frmComponentes : public VentanaDiseno {
     Q_OBJECT
 public:
-    explicit frmComponentes(frmPrincipal& principal);
+    explicit frmComponentes(QWidget* padre = nullptr);
 
     // Accepts the window: its step label follows the content, the model takes the working
     // copy and the window unloads.

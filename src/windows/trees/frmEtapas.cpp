@@ -2,17 +2,16 @@
 
 #include "core/core/sesion.h"
 #include "core/shell/flujo_trabajo.h"
-#include "windows/shell/frmPrincipal.h"
 
 namespace vadro {
 
-frmEtapas::frmEtapas(frmPrincipal& principal)
-    : VentanaDiseno(principal, "frmEtapas", "Etapas del ciclo de vida") {
+frmEtapas::frmEtapas(QWidget* padre)
+    : VentanaDiseno(Hija::Etapas, "Etapas del ciclo de vida", padre) {
     AjustarControles();
 }
 
 void frmEtapas::cmdAceptar_Click() {
-    Principal().MarcarPaso(3, HayElementos(SesionActual().modelo.NumEtapas));
+    emit MarcaPaso(EtqCicloVida, HayElementos(SesionActual().modelo.NumEtapas));
     LlamaLlenarEtapas();
     Descargar();
 }

@@ -9,7 +9,7 @@ namespace vadro {
 class frmEtapas : public VentanaDiseno {
     Q_OBJECT
 public:
-    explicit frmEtapas(frmPrincipal& principal);
+    explicit frmEtapas(QWidget* padre = nullptr);
 
     // Accepts the window: its step label follows the content, the model takes the working
     // copy and the window unloads.

@@ -2,17 +2,16 @@
 
 #include "core/core/sesion.h"
 #include "core/shell/flujo_trabajo.h"
-#include "windows/shell/frmPrincipal.h"
 
 namespace vadro {
 
-frmRequerimientos::frmRequerimientos(frmPrincipal& principal)
-    : VentanaDiseno(principal, "frmRequerimientos", "Arbol de requerimientos") {
+frmRequerimientos::frmRequerimientos(QWidget* padre)
+    : VentanaDiseno(Hija::Requerimientos, "Arbol de requerimientos", padre) {
     AjustarControles();
 }
 
 void frmRequerimientos::cmdAceptar_Click() {
-    Principal().MarcarPaso(1, HayElementos(SesionActual().modelo.NumRequerimientos));
+    emit MarcaPaso(EtqRequerimientos, HayElementos(SesionActual().modelo.NumRequerimientos));
     LlamaLlenarRequerimientos();
     Descargar();
 }
@@ -20,6 +19,10 @@ void frmRequerimientos::cmdAceptar_Click() {
 void frmRequerimientos::LlamaLlenarRequerimientos() {
     // The window holds no working copy yet: it shows what the model holds, so there is
     // nothing to write back and the model stays as it is.
+}
+
+void frmRequerimientos::AlDescargar() {
+    emit MarcaPaso(EtqRequerimientos, HayElementos(SesionActual().modelo.NumRequerimientos));
 }
 
 } // namespace vadro

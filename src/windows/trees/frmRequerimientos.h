@@ -9,13 +9,17 @@ namespace vadro {
 class frmRequerimientos : public VentanaDiseno {
     Q_OBJECT
 public:
-    explicit frmRequerimientos(frmPrincipal& principal);
+    explicit frmRequerimientos(QWidget* padre = nullptr);
 
     // Accepts the window: its step label follows the content, the model takes the working
     // copy and the window unloads.
     void cmdAceptar_Click() override;
     // Writes the working copy into the model, the window staying open.
     void LlamaLlenarRequerimientos();
+
+protected:
+    // Whatever way the window goes, its step label follows what the model holds.
+    void AlDescargar() override;
 };
 
 } // namespace vadro

@@ -1,5 +1,6 @@
 #include "windows/trees/ventana_diseno.h"
 
+#include "windows/core/conectar.h"
 #include "windows/core/controles.h"
 #include "windows/core/texto.h"
 
@@ -10,13 +11,13 @@
 
 namespace vadro {
 
-VentanaDiseno::VentanaDiseno(frmPrincipal& principal, const char* nombre, const char* titulo)
-    : VentanaHija(principal, nombre, titulo) {
+VentanaDiseno::VentanaDiseno(Hija hija, const char* titulo, QWidget* padre)
+    : VentanaHija(hija, titulo, padre) {
     cmdAceptar = Boton(this, "cmdAceptar", "Aceptar");
     auto* columna = new QVBoxLayout(this);
     columna->addStretch();
     columna->addLayout(FilaBotones({cmdAceptar}));
-    connect(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
+    Conectar(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
 }
 
 void VentanaDiseno::Colocar(QMdiSubWindow& marco, const QRect& cliente) {

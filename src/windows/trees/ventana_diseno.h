@@ -11,7 +11,7 @@ namespace vadro {
 class VentanaDiseno : public VentanaHija {
     Q_OBJECT
 public:
-    VentanaDiseno(frmPrincipal& principal, const char* nombre, const char* titulo);
+    VentanaDiseno(Hija hija, const char* titulo, QWidget* padre);
 
     QPushButton* cmdAceptar;
     virtual void cmdAceptar_Click() = 0;

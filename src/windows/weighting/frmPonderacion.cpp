@@ -2,8 +2,8 @@
 
 namespace vadro {
 
-frmPonderacion::frmPonderacion(frmPrincipal& principal)
-    : VentanaHija(principal, "frmPonderacion", "Ponderación de elementos del árbol") {
+frmPonderacion::frmPonderacion(QWidget* padre)
+    : VentanaHija(Hija::Ponderacion, "Ponderación de elementos del árbol", padre) {
     AjustarControles();
 }
 

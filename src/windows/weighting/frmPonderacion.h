@@ -9,7 +9,7 @@ namespace vadro {
 class frmPonderacion : public VentanaHija {
     Q_OBJECT
 public:
-    explicit frmPonderacion(frmPrincipal& principal);
+    explicit frmPonderacion(QWidget* padre = nullptr);
 };
 
 } // namespace vadro

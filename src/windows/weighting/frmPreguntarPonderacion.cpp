@@ -1,13 +1,10 @@
 #include "windows/weighting/frmPreguntarPonderacion.h"
 
 #include "core/core/sesion.h"
-#include "core/shell/flujo_trabajo.h"
 #include "windows/core/ajustar_fuente.h"
+#include "windows/core/conectar.h"
 #include "windows/core/controles.h"
 #include "windows/core/texto.h"
-#include "windows/reports/frmResumen.h"
-#include "windows/shell/frmPrincipal.h"
-#include "windows/weighting/frmPonderacion.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -16,8 +13,7 @@
 
 namespace vadro {
 
-frmPreguntarPonderacion::frmPreguntarPonderacion(frmPrincipal& principal)
-    : QDialog(&principal), principal_(principal) {
+frmPreguntarPonderacion::frmPreguntarPonderacion(QWidget* padre) : QDialog(padre) {
     setObjectName(Q("frmPreguntarPonderacion"));
     setWindowTitle(Q("Permisos del usuario"));
     chkVerPesos = new QCheckBox(Q("Permitir al usuario ver características significativas del "
@@ -30,7 +26,7 @@ frmPreguntarPonderacion::frmPreguntarPonderacion(frmPrincipal& principal)
     columna->addLayout(FilaBotones({cmdAceptar}));
 
     chkVerPesos->setChecked(SesionActual().modelo.PermisoUsuarioVer);
-    connect(cmdAceptar, &QPushButton::clicked, this, &frmPreguntarPonderacion::cmdAceptar_Click);
+    Conectar(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
     Cargado = true;
     AjustarControles();
 }
@@ -40,21 +36,19 @@ void frmPreguntarPonderacion::AjustarControles() {
 }
 
 void frmPreguntarPonderacion::cmdAceptar_Click() {
-    principal_.Descargar<frmResumen>();
     SesionActual().modelo.PermisoUsuarioVer = chkVerPesos->isChecked();
-    principal_.Cargar<frmPonderacion>();
-    principal_.FijarPosicion(kPosicionPonderacion);
-    principal_.EscribirPosicion();
     accept();
 }
 
 void frmPreguntarPonderacion::showEvent(QShowEvent* evento) {
     QDialog::showEvent(evento);
-    // Centred over the main window.
+    // Centred over the window that asks.
     adjustSize();
-    QRect lugar = geometry();
-    lugar.moveCenter(principal_.geometry().center());
-    setGeometry(lugar);
+    if (parentWidget() != nullptr) {
+        QRect lugar = geometry();
+        lugar.moveCenter(parentWidget()->window()->geometry().center());
+        setGeometry(lugar);
+    }
 }
 
 void frmPreguntarPonderacion::done(int resultado) {

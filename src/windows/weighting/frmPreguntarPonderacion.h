@@ -9,14 +9,12 @@ class QPushButton;
 
 namespace vadro {
 
-class frmPrincipal;
-
 // The question between the summary and the weights: may the users of the compiled model see
 // its inner data? Its acceptance finishes the step to "Ponderacion".
 class frmPreguntarPonderacion : public QDialog, public Ventana {
     Q_OBJECT
 public:
-    explicit frmPreguntarPonderacion(frmPrincipal& principal);
+    explicit frmPreguntarPonderacion(QWidget* padre = nullptr);
     void AjustarControles() override;
 
     QCheckBox* chkVerPesos;
@@ -27,9 +25,6 @@ public:
 protected:
     void showEvent(QShowEvent* evento) override;
     void done(int resultado) override;
-
-private:
-    frmPrincipal& principal_;
 };
 
 } // namespace vadro

@@ -3,12 +3,124 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace vadro {
 namespace {
 
-// The status texts and the questions at the end of the line, answered each way, are checked
-// by the walks of the main window.
+// The questions at the end of the line, answered each way, are checked by the walks of the
+// main window.
 class FlujoTrabajo : public pruebas::PruebaSesion {};
+
+std::string Lista(const std::vector<Hija>& hijas) {
+    std::string texto;
+    for (Hija hija : hijas) {
+        texto += std::string(texto.empty() ? "" : ",") + NombreHija(hija);
+    }
+    return texto;
+}
+
+std::string Marca(const char* nombre, const std::optional<bool>& valor) {
+    return valor ? std::string(" ") + nombre + (*valor ? "+" : "-") : "";
+}
+
+// A step written out in the order the main window applies it.
+std::string Describir(const Transicion& t) {
+    const Ajuste& a = t.ajuste;
+    std::string texto = "[" + Marca("entradas", a.entradasDiseno) +
+                        Marca("retroceder", a.cmdRetroceder) + Marca("b8", a.botonRetroceder) +
+                        Marca("continuar", a.cmdContinuar) + Marca("b9", a.botonContinuar) +
+                        Marca("grupo", a.grupoDiseno) + Marca("importar", a.importar) +
+                        Marca("panel", a.panel) + Marca("fondo", a.fondo) + " ]";
+    texto += " aceptar:" + Lista(t.aceptar) + " descargar:" + Lista(t.descargar) +
+             " cargar:" + Lista(t.cargar);
+    texto += " -> " + (t.destino ? NombrePosicion(*t.destino) : std::string("="));
+    texto += t.preguntarPermisos ? " permisos" : "";
+    texto += t.finalDeLinea ? " final" : "";
+    return texto;
+}
+
+const std::string kA = "[ entradas+ retroceder- b8- continuar+ b9+ grupo+";
+const std::string kB = "[ entradas- retroceder+ b8+ continuar+ b9+ grupo-";
+
+TEST_F(FlujoTrabajo, EveryStepOfTheLineOpensClosesAndEnablesWhatItMust) {
+    Modelo conRequerimientos;
+    conRequerimientos.NumRequerimientos = 2;
+    const Modelo vacio;
+    const std::pair<Transicion, std::string> casos[] = {
+        {TransicionContinuar(Posicion::Ejes),
+         kB + " ] aceptar:frmComponentes,frmRequerimientos,frmEtapas descargar:frmEjes "
+              "cargar:frmResumen -> Resumen"},
+        {TransicionContinuar(Posicion::Resumen),
+         kB + " importar- ] aceptar: descargar: cargar: -> = permisos"},
+        {TransicionTrasPermisos(),
+         "[ ] aceptar: descargar:frmResumen cargar:frmPonderacion -> Ponderacion"},
+        {TransicionContinuar(Posicion::Ponderacion),
+         kB + " ] aceptar: descargar:frmPonderacion cargar:frmInforme -> Informe"},
+        {TransicionContinuar(Posicion::Informe), "[ ] aceptar: descargar: cargar: -> = final"},
+        {TransicionCompilarAlFinal(),
+         "[ entradas- retroceder+ b8+ continuar- b9- grupo- ] aceptar: descargar: cargar: -> ="},
+        {TransicionRetroceder(Posicion::Informe, conRequerimientos),
+         kB + " ] aceptar: descargar:frmInforme cargar:frmPonderacion -> Ponderacion"},
+        {TransicionRetroceder(Posicion::Informe, vacio),
+         kB + " ] aceptar: descargar:frmInforme cargar:frmResumen -> Resumen"},
+        {TransicionRetroceder(Posicion::Ponderacion, vacio),
+         kB + " importar+ ] aceptar: descargar:frmPonderacion cargar:frmResumen -> Resumen"},
+        {TransicionRetroceder(Posicion::Resumen, vacio),
+         kA + " ] aceptar: descargar:frmResumen cargar:frmEjes -> Ejes"},
+        {TransicionRetroceder(Posicion::Ejes, vacio),
+         "[ entradas- retroceder- b8- continuar- b9- panel- ] aceptar: "
+         "descargar:frmComponentes,frmRequerimientos,frmEtapas,frmEjes cargar: -> ="},
+        {TransicionSaltoResumen(),
+         "[ entradas- b8+ b9+ grupo- fondo- ] aceptar:frmComponentes,frmRequerimientos,frmEtapas "
+         "descargar:frmPonderacion,frmEjes cargar:frmResumen -> Resumen"},
+        {TransicionSaltoPonderacion(),
+         kB + " importar- ] aceptar: descargar:frmResumen cargar:frmPonderacion -> Ponderacion"},
+    };
+    for (const auto& [transicion, esperado] : casos) {
+        EXPECT_EQ(Describir(transicion), esperado);
+    }
+}
+
+TEST_F(FlujoTrabajo, ButtonsAndLabelsNameTheirCommands) {
+    EXPECT_EQ(ComandoDeBoton("Alternativas"), Comando::Componentes);
+    EXPECT_EQ(ComandoDeBoton("Tiempo"), Comando::Etapas);
+    EXPECT_EQ(ComandoDeBoton("Requerimientos"), Comando::Requerimientos);
+    EXPECT_EQ(ComandoDeBoton("Componentes"), Comando::Ninguno) << "the key, not the caption";
+    const Comando porEtiqueta[kNumEtiquetas] = {Comando::Ninguno,
+                                                Comando::Requerimientos,
+                                                Comando::Componentes,
+                                                Comando::Etapas,
+                                                Comando::SaltarAResumen,
+                                                Comando::Ninguno,
+                                                Comando::SaltarAPonderacion,
+                                                Comando::Ninguno,
+                                                Comando::Compilar};
+    for (int i = 0; i < kNumEtiquetas; ++i) {
+        EXPECT_EQ(ComandoDeEtiqueta(i), porEtiqueta[i]) << i;
+        EXPECT_EQ(EsEncabezado(i), porEtiqueta[i] == Comando::Ninguno) << i;
+    }
+}
+
+TEST_F(FlujoTrabajo, ARefusedCloseReloadsOnlyTheWindowsOfThePosition) {
+    const std::vector<Hija> abiertas = {Hija::Etapas, Hija::Ejes, Hija::Requerimientos,
+                                        Hija::Compilacion};
+    EXPECT_EQ(Lista(VentanasARecargar(Posicion::Ejes, abiertas)),
+              "frmEjes,frmRequerimientos,frmEtapas");
+    EXPECT_EQ(Lista(VentanasARecargar(Posicion::Resumen, abiertas)), "");
+    EXPECT_EQ(Lista(VentanasARecargar(Posicion::Ponderacion, {Hija::Ponderacion})),
+              "frmPonderacion");
+    EXPECT_EQ(Lista(VentanasARecargar(Posicion::Informe, {Hija::Informe})), "")
+        << "the report is not brought back";
+}
+
+TEST_F(FlujoTrabajo, ThePositionReadsInLowerCaseInTheStatusBar) {
+    EXPECT_EQ(TextoPosicion(Posicion::Ponderacion), "Posición: ponderacion");
+    EXPECT_EQ(TextoPosicion(Posicion::Ninguna), "Posición: ");
+}
 
 TEST_F(FlujoTrabajo, AnEmptyCountAndZeroBothMeanNone) {
     EXPECT_FALSE(HayElementos(ValorLibre()));

@@ -76,7 +76,7 @@ TEST_F(Arranque_, TheStartScreenLeadsToNuevoWhichClosesIt) {
     // Nuevo shows the properties of the new model.
     modales.Esperar(QStringLiteral("frmPropiedades"), [](QDialog& d) { d.accept(); });
     ASSERT_TRUE(arranque.Iniciar());
-    EXPECT_EQ(arranque.Principal()->Posicion(), "Ejes");
+    EXPECT_EQ(NombrePosicion(arranque.Principal()->Posicion()), "Ejes");
 }
 
 TEST_F(Arranque_, ASecondInstanceIsOnlyAQuestion) {

@@ -48,7 +48,7 @@ TEST_F(Comandos, NuevoUnloadsEveryOtherWindowBeforeTheProperties) {
     });
     PulsarBoton("Nuevo");
     EXPECT_EQ(Hijas(), Strings{"frmEjes"}) << "a cancelled dialog leaves the new model in place";
-    EXPECT_EQ(principal.Posicion(), "Ejes");
+    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
     EXPECT_EQ(Estado(), "Posición: ejes");
 }
 
@@ -60,7 +60,7 @@ TEST_F(Comandos, CancelAtTheQuestionOfNuevoChangesNothing) {
     mensajes.Esperar(tituloNuevo, preguntaNuevo, Respuesta::Cancelar);
     principal.mnuNuevo->trigger();
     EXPECT_EQ(sesion().modelo.Nombre, "en curso");
-    EXPECT_EQ(principal.Posicion(), "Resumen");
+    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
     EXPECT_EQ(Hijas(), Strings{"frmResumen"});
 }
 
@@ -73,7 +73,7 @@ TEST_F(Comandos, YesAtTheQuestionOfNuevoSavesTheModelFirst) {
     NuevoModelo();
     EXPECT_EQ(NombreGuardadoEn(ruta), "activo");
     EXPECT_EQ(sesion().modelo.Nombre, "");
-    EXPECT_EQ(principal.Posicion(), "Ejes");
+    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
 }
 
 TEST_F(Comandos, TheStartScreenLeadsToANewModelAndClosesItself) {
@@ -85,7 +85,7 @@ TEST_F(Comandos, TheStartScreenLeadsToANewModelAndClosesItself) {
     frmInicio inicio([this] { principal.Nuevo(); }, [this] { principal.Abrir(); }, &principal);
     MostrarModal(inicio);
     EXPECT_EQ(frmInicio::Abierto(), nullptr);
-    EXPECT_EQ(principal.Posicion(), "Ejes");
+    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
     EXPECT_EQ(Hijas(), Strings{"frmEjes"});
 }
 
@@ -96,7 +96,7 @@ TEST_F(Comandos, AnExistingModelFromTheStartScreenOnlyClosesItForNow) {
     });
     frmInicio inicio([this] { principal.Nuevo(); }, [this] { principal.Abrir(); }, &principal);
     MostrarModal(inicio);
-    EXPECT_EQ(principal.Posicion(), "");
+    EXPECT_EQ(NombrePosicion(principal.Posicion()), "");
     EXPECT_TRUE(Hijas().empty());
     PulsarBoton("Abrir");
     PulsarBoton("Imprimir");
