@@ -1,7 +1,7 @@
 #include "core/core/archivos.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
-#include "funciones_prueba.h"
+#include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>

@@ -2,8 +2,8 @@
 #include "core/core/error_ejecucion.h"
 #include "core/files/proteccion.h"
 #include "core/files/seccion_funcion.h"
-#include "funciones_prueba.h"
 #include "soporte/errores.h"
+#include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -127,7 +127,8 @@ TEST_F(SeccionFuncion, AFailedStatementIsShownAndRetriedUntilItsCauseIsGone) {
     f.RMax = "mucho";
     const std::string destino = UnirRuta(Ruta("nueva"), "f.fva");
     mensajes.Esperar("VADRO: Error ", Fallo(ErrTipos))
-        .Esperar("VADRO: Error ", Fallo(ErrTipos), Respuesta::Aceptar, [&] { f.RMax = {}; })
+        .Esperar("VADRO: Error ", Fallo(ErrTipos), Respuesta::Aceptar,
+                 [&] { f.RMax = completa.RMax; })
         .Esperar("VADRO: Error ", Fallo(ErrSubindice), Respuesta::Aceptar,
                  [&] { f.Escalones = completa.Escalones; })
         .Esperar("VADRO: Error ", Fallo(ErrRutaNoEncontrada), Respuesta::Aceptar,
