@@ -40,30 +40,6 @@ protected:
     std::vector<std::string> LineasDelArchivo() { return LineasPlanas(Contenido(ruta)); }
 };
 
-TEST_F(Cabecera, TheHeaderLinesInTheirOrder) {
-    Modelo m = ModeloCompleto();
-    ArchivoSalida salida;
-    EscribirCabecera(m, salida, "");
-    const std::vector<std::string> esperadas = {
-        "*****MODELO*****",
-        "MOD_APL = 1.0.0",
-        "MOD_NOM = Depuradora de A\xF1\xF3n",
-        "MOD_DAT = 22/11/2026",
-        "MOD_POR = Bego\xF1"
-        "a",
-        "MOD_VER = 3",
-        "MOD_LOC = Zaragoza",
-        "MOD_REF = REF-1",
-        "MOD_DSC = Evaluaci\xF3n \x80 ampliaci\xF3n",
-        "MOD_FCP = C:\\modelos\\a.vdc",
-        "MOD_EJX = Tiempo",
-        "MOD_EJY = Requerimientos",
-        "MOD_EJZ = Componentes",
-        "MOD_PERM_USU_VER = Verdadero",
-    };
-    EXPECT_EQ(salida.Lineas(), esperadas);
-}
-
 TEST_F(Cabecera, AnEmptyModelWritesEmptyValues) {
     ArchivoSalida salida;
     EscribirCabecera(Modelo{}, salida, "");
