@@ -47,33 +47,6 @@ TEST_F(Cabecera, AnEmptyModelWritesEmptyValues) {
     EXPECT_EQ(salida.Lineas().back(), "MOD_PERM_USU_VER = Falso");
 }
 
-TEST_F(Cabecera, TheIndexPrefixesEveryKeyAndTheMarker) {
-    Modelo m = ModeloCompleto();
-    GuardarModelo(m, ruta, false, "X1");
-    const auto lineas = LineasDelArchivo();
-    EXPECT_EQ(lineas[0], "X1*****MODELO*****");
-    EXPECT_EQ(lineas[2], "X1MOD_NOM = Depuradora de A\xF1\xF3n");
-    Modelo leido;
-    CargarModelo(leido, ruta, "X1");
-    EXPECT_EQ(leido.Nombre, m.Nombre);
-    EXPECT_TRUE(leido.PermisoUsuarioVer);
-}
-
-TEST_F(Cabecera, ASavedModelIsScrambledAndLoadsBack) {
-    Modelo m = ModeloCompleto();
-    m.Modificado = true;
-    GuardarModelo(m, ruta, false);
-    EXPECT_FALSE(m.Modificado);
-    const std::string bytes = Contenido(ruta);
-    EXPECT_NE(bytes.substr(0, 5), "*****");
-    Modelo leido;
-    CargarModelo(leido, ruta);
-    m.Modificado = false;
-    leido.Archivo = m.Archivo;
-    EXPECT_EQ(leido, m);
-    EXPECT_FALSE(std::filesystem::exists(Ruta("modelo.$$$"))) << "the temporary file is deleted";
-}
-
 TEST_F(Cabecera, EqualsSignsInValuesFollowTheLastEqualsRule) {
     Modelo m;
     m.Nombre = "a=b";

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace vadro {
 namespace {
@@ -86,6 +87,8 @@ TEST_F(ModeloConRequerimientos, AModelRoundTripsAndASecondSaveGivesTheSameText) 
     m.Modificado = true;
     GuardarModelo(m, ruta, false);
     EXPECT_FALSE(m.Modificado);
+    EXPECT_NE(Contenido(ruta).substr(0, 5), "*****") << "a saved model is scrambled";
+    EXPECT_FALSE(std::filesystem::exists(Ruta("planta.$$$"))) << "the temporary file goes";
     const std::string texto = UnirLineas(LineasDelArchivo());
     EXPECT_EQ(texto, Datos("archivos/modelo_completo.txt", texto)) << "8-bit plain text";
     Modelo leido;
@@ -153,6 +156,8 @@ TEST_F(ModeloConRequerimientos, TwoModelsShareAFileUnderTheirPrefixes) {
     GuardarModelo(a, ruta, true, "A");
     GuardarModelo(b, ruta, true, "B");
     ArchivoEntrada archivo(DividirLineas(Contenido(ruta)));
+    EXPECT_EQ(archivo.Lineas().at(archivo.NumLineas() / 2), "B*****MODELO*****")
+        << "the prefix stands before the marker too";
     Modelo leidoA;
     Modelo leidoB;
     CargarModelo(leidoA, archivo, "A");
