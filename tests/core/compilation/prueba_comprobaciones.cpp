@@ -298,28 +298,20 @@ TEST(FuncionesDeValor, AStepFunctionIsCheckedForItsLimitsThenForItsSteps) {
 }
 
 TEST(FuncionesDeValor, AScoringFunctionIsAContinuousOneAndEachIncompleteElementOneMoreLine) {
-    const auto puntuacion = [](int32_t tipo, const std::string& nombre, ValorLibre minimo,
-                               ValorLibre maximo, ValorLibre no, ValorLibre si) {
-        return Puntuacion{tipo,          nombre,       std::move(minimo), std::move(maximo),
-                          std::move(no), std::move(si)};
-    };
     FuncionValor f = pruebas::Continua();
     f.Tipo = FuncionPuntuacion;
-    const std::vector<Puntuacion> elementos = {
-        puntuacion(PuntuacionBooleana, "Tiene licencia", "", "", 0.0, 1.0),
-        puntuacion(PuntuacionBooleana, "", "", "", 0.0, 1.0),
-        puntuacion(PuntuacionBooleana, "Avalada", 1.0, 2.0, 0.0, ""),
-        puntuacion(PuntuacionNumerica, "Años", 0.0, 10.0, 0.0, 1.0),
-        puntuacion(PuntuacionNumerica, "Plantilla", 0.0, "", 0.0, 1.0),
-        puntuacion(PuntuacionNumerica, "Obras", "", 5.0, 0.0, 1.0)};
     f.Puntuaciones.Redimensionar(6);
-    std::copy(elementos.begin(), elementos.end(), f.Puntuaciones.begin());
-    const std::vector<std::string> cuatro(4, kPuntuacion);
-    EXPECT_EQ(Hallazgos(f), cuatro);
+    f.Puntuaciones(1) = {PuntuacionBooleana, "Tiene licencia", "", "", 0.0, 1.0};
+    f.Puntuaciones(2) = {PuntuacionBooleana, "", "", "", 0.0, 1.0};
+    f.Puntuaciones(3) = {PuntuacionBooleana, "Avalada", 1.0, 2.0, 0.0, ""};
+    f.Puntuaciones(4) = {PuntuacionNumerica, "Años", 0.0, 10.0, 0.0, 1.0};
+    f.Puntuaciones(5) = {PuntuacionNumerica, "Plantilla", 0.0, "", 0.0, 1.0};
+    f.Puntuaciones(6) = {PuntuacionNumerica, "Obras", "", 5.0, 0.0, 1.0};
+    std::vector<std::string> lineas(4, kPuntuacion);
+    EXPECT_EQ(Hallazgos(f), lineas);
     f.Unidades = "";
-    std::vector<std::string> cinco = {kSinUnidades};
-    cinco.insert(cinco.end(), cuatro.begin(), cuatro.end());
-    EXPECT_EQ(Hallazgos(f), cinco);
+    lineas.insert(lineas.begin(), kSinUnidades);
+    EXPECT_EQ(Hallazgos(f), lineas);
 }
 
 TEST(FuncionesDeValor, OptionalIndicatorsAndUnknownKindsAreTakenAsTheyStand) {
