@@ -4,6 +4,7 @@
 #include "core/core/sesion.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/texto_modelo.h"
+#include "soporte/modelo_sano.h"
 
 #include <benchmark/benchmark.h>
 
@@ -15,71 +16,6 @@
 namespace {
 
 using namespace vadro;
-
-constexpr int kIndicadoresPorCriterio = 10;
-constexpr int kCriteriosPorRequerimiento = 10;
-
-void Cabeza(CabeceraNodo& nodo, const std::string& nombre, int hermanos) {
-    nodo.Nombre = nombre;
-    nodo.Descripcion = "Descripción de " + nombre;
-    nodo.Peso = 100.0 / hermanos;
-    nodo.Directo = 1.0;
-    nodo.Saaty.Redimensionar(hermanos);
-    for (int j = 1; j <= hermanos; ++j) {
-        nodo.Saaty(j) = 1.0 + j / 8.0;
-    }
-}
-
-// Half of the indicators continuous, half with four steps.
-FuncionValor Funcion(int n) {
-    FuncionValor f;
-    f.Unidades = "kg/m3";
-    f.RMin = 0.0;
-    f.RMax = 100.0;
-    if (n % 2 == 0) {
-        f.Tipo = FuncionContinua;
-        f.XMin = "<0";
-        f.XMax = "=100";
-        f.C = 40.0;
-        f.K = 0.5;
-        f.P = 2.5;
-        return f;
-    }
-    f.Tipo = FuncionEscalon;
-    f.XMin = "<0";
-    f.XMax = ">100";
-    f.Escalones.Redimensionar(4);
-    for (int e = 1; e <= 4; ++e) {
-        const std::string inicio = (e == 1 ? "=" : ">") + std::to_string((e - 1) * 25);
-        f.Escalones(e) = {inicio, "=" + std::to_string(e * 25), (e - 1) / 3.0};
-    }
-    return f;
-}
-
-Modelo ModeloGenerado(int indicadores) {
-    const int requerimientos = indicadores / (kIndicadoresPorCriterio * kCriteriosPorRequerimiento);
-    Modelo m;
-    m.Nombre = "Generado";
-    m.NumRequerimientos = requerimientos;
-    m.Requerimientos.Redimensionar(requerimientos);
-    int n = 0;
-    for (NodoRequerimiento& r : m.Requerimientos) {
-        Cabeza(r, "Requerimiento", requerimientos);
-        r.NumCriterios = kCriteriosPorRequerimiento;
-        r.Criterios.Redimensionar(kCriteriosPorRequerimiento);
-        for (NodoCriterio& c : r.Criterios) {
-            Cabeza(c, "Criterio", kCriteriosPorRequerimiento);
-            c.NumSubcriterios = 0;
-            c.NumIndicadores = kIndicadoresPorCriterio;
-            c.Indicadores.Redimensionar(kIndicadoresPorCriterio);
-            for (NodoIndicador& i : c.Indicadores) {
-                Cabeza(i, "Indicador " + std::to_string(++n), kIndicadoresPorCriterio);
-                i.Funcion = Funcion(n);
-            }
-        }
-    }
-    return m;
-}
 
 // One working directory for the run, and one saved file per size.
 class Banco {
@@ -102,7 +38,7 @@ public:
     Modelo& ModeloDe(int indicadores) {
         auto it = modelos_.find(indicadores);
         if (it == modelos_.end()) {
-            it = modelos_.emplace(indicadores, ModeloGenerado(indicadores)).first;
+            it = modelos_.emplace(indicadores, pruebas::ModeloGenerado(indicadores)).first;
             GuardarModelo(it->second, Ruta(indicadores), false);
         }
         return it->second;

@@ -1,6 +1,7 @@
 // The requirements tree at the size a large model reaches: about 2,000 nodes.
 #include "core/core/sesion.h"
 #include "core/trees/edicion_requerimientos.h"
+#include "soporte/modelo_sano.h"
 
 #include <benchmark/benchmark.h>
 
@@ -9,27 +10,12 @@
 namespace vadro {
 namespace {
 
-template <typename T> void Contar(ValorLibre& cuenta, Arreglo<T>& arreglo, int n) {
-    cuenta = n;
-    arreglo.Redimensionar(n);
-    for (T& nodo : arreglo) {
-        nodo.Nombre = "nodo";
-        nodo.Saaty.Redimensionar(n);
-        nodo.Peso = 100.0 / n;
-    }
-}
-
 // r requirements of c criteria of i indicators each.
 Modelo ModeloDe(int r, int c, int i) {
-    Modelo m;
-    Contar(m.NumRequerimientos, m.Requerimientos, r);
-    for (NodoRequerimiento& requerimiento : m.Requerimientos) {
-        Contar(requerimiento.NumCriterios, requerimiento.Criterios, c);
-        for (NodoCriterio& criterio : requerimiento.Criterios) {
-            Contar(criterio.NumIndicadores, criterio.Indicadores, i);
-        }
-    }
-    return m;
+    const std::vector<NodoIndicador> indicadores(i, pruebas::Indicador("nodo"));
+    const std::vector<NodoCriterio> criterios(c, pruebas::Criterio("nodo", indicadores));
+    return pruebas::ModeloCon(
+        std::vector<NodoRequerimiento>(r, pruebas::Requerimiento("nodo", criterios)));
 }
 
 // A window opened on the model; 10 x 10 x 19 gives 2,011 nodes, 1 x 1 x 2000 one criterion

@@ -1,25 +1,24 @@
 #pragma once
 
-#include "core/compilation/informe_errores.h"
 #include "core/core/registros.h"
 #include "soporte/componentes_etapas.h"
 
 #include <algorithm>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace vadro::pruebas {
 
-// Small models built through the records, complete unless a test spoils them: every sibling
-// set weighted evenly by pairwise comparison with a ratio of 0, every indicator with a sound
-// continuous function.
+// Value functions of every kind, each sound for the checks, with limits that already follow
+// their steps, so that a save and a load give the same records back. Their key is that of a
+// first indicator.
 
-inline FuncionValor Continua() {
+inline FuncionValor Continua(const std::string& clave = "I1C1R1") {
     FuncionValor f;
+    f.Clave = clave;
     f.Tipo = FuncionContinua;
-    f.Unidades = "m3";
+    f.Unidades = "m";
     f.XMin = "<0";
     f.XMax = "=100";
     f.RMin = 0.0;
@@ -29,6 +28,50 @@ inline FuncionValor Continua() {
     f.P = 2.0;
     return f;
 }
+
+template <typename Funcion> Funcion DeEscalones() {
+    Funcion f;
+    f.Tipo = FuncionEscalon;
+    f.Unidades = "h";
+    f.XMin = "<0";
+    f.XMax = ">90";
+    f.RMin = 0.0;
+    f.RMax = 90.0;
+    f.Escalones.Redimensionar(3);
+    f.Escalones(1) = {"=0", "<30", 0.0};
+    f.Escalones(2) = {"=30", "=60", 0.5};
+    f.Escalones(3) = {">60", "=90", 1.0};
+    return f;
+}
+
+inline FuncionValor DePuntuacion() {
+    FuncionValor f = Continua();
+    f.Tipo = FuncionPuntuacion;
+    f.Puntuaciones.Redimensionar(2);
+    f.Puntuaciones(1) = {PuntuacionBooleana, "¿Licencia?", {}, {}, 0.0, 2.0};
+    f.Puntuaciones(2) = {PuntuacionNumerica, "Años", 1.0, 20.0, 0.5, 8.0};
+    return f;
+}
+
+// The options' keys are set, as writing sets them.
+inline FuncionValor DeOptativos(const std::string& clave) {
+    FuncionValor f;
+    f.Clave = clave;
+    f.Tipo = FuncionOptativos;
+    f.OptativoSeleccionado = 1;
+    f.Optativos.Redimensionar(2);
+    f.Optativos(1).Nombre = "Caudal";
+    f.Optativos(1).Funcion.Tipo = FuncionContinua;
+    f.Optativos(1).Funcion.K = 0.25;
+    f.Optativos(2) = {"Presión", DeEscalones<FuncionOptativo>()};
+    f.Optativos(1).Funcion.Clave = "O1" + clave;
+    f.Optativos(2).Funcion.Clave = "O2" + clave;
+    return f;
+}
+
+// Small models built through the records, complete unless a test spoils them: every sibling
+// set weighted evenly by pairwise comparison with a ratio of 0, every indicator with a sound
+// continuous function.
 
 // Counts and arrays as the file reader leaves them: the count as a number, the array sized,
 // every row of comparisons all ones.
@@ -98,27 +141,39 @@ inline Modelo ModeloCorrecto() {
                       Requerimiento("Social", {criterio("Empleo"), criterio("Seguridad")})});
 }
 
-// Expected report lines written as the report reads, one per line, with " | " and the key
-// after the lines that have one: the text with keys of those lines ("line<TAB>key"), so that
-// a failing comparison shows a line-by-line difference. The line break right after the
-// opening of a raw literal is dropped.
-inline std::string Esperado(std::string_view tabla) {
-    if (tabla.starts_with('\n')) {
-        tabla.remove_prefix(1);
-    }
-    std::string texto;
-    while (!tabla.empty()) {
-        const std::size_t fin = tabla.find('\n');
-        std::string_view linea = tabla.substr(0, fin);
-        std::string_view clave;
-        if (const std::size_t barra = linea.find(" | "); barra != std::string_view::npos) {
-            clave = linea.substr(barra + 3);
-            linea = linea.substr(0, barra);
+// A large sound model for the benchmarks: ten indicators to a criterion, ten criteria to a
+// requirement; even criteria hold their indicators, odd ones two subcriteria of five; the
+// functions continuous, step and scoring in turn. With a first set, the first criterion holds
+// that many indicators and the last criteria give way to it.
+inline Modelo ModeloGenerado(int indicadores, int primerConjunto = 0) {
+    const FuncionValor funciones[] = {Continua(), DeEscalones<FuncionValor>(), DePuntuacion()};
+    int n = 0;
+    const auto conjunto = [&](int cuantos) {
+        std::vector<NodoIndicador> nodos;
+        for (int k = 0; k < cuantos; ++k, ++n) {
+            nodos.push_back(Indicador("Indicador " + std::to_string(n + 1), funciones[n % 3]));
         }
-        texto.append(linea).append("\t").append(clave).append("\n");
-        tabla.remove_prefix(fin == std::string_view::npos ? tabla.size() : fin + 1);
+        return nodos;
+    };
+    const int criterios = (indicadores - primerConjunto) / 10 + (primerConjunto > 0 ? 1 : 0);
+    std::vector<NodoRequerimiento> requerimientos;
+    for (int c = 1; c <= criterios / 10 * 10; c += 10) {
+        std::vector<NodoCriterio> hermanos;
+        for (int numero = c; numero < c + 10; ++numero) {
+            const std::string nombre = "Criterio " + std::to_string(numero);
+            if (numero == 1 && primerConjunto > 0) {
+                hermanos.push_back(Criterio(nombre, conjunto(primerConjunto)));
+            } else if (numero % 2 == 0) {
+                hermanos.push_back(Criterio(nombre, conjunto(10)));
+            } else {
+                hermanos.push_back(Criterio(
+                    nombre, {}, {Subcriterio("A", conjunto(5)), Subcriterio("B", conjunto(5))}));
+            }
+        }
+        requerimientos.push_back(
+            Requerimiento("Requerimiento " + std::to_string(c / 10 + 1), std::move(hermanos)));
     }
-    return texto;
+    return ModeloCon(std::move(requerimientos));
 }
 
 } // namespace vadro::pruebas

@@ -63,8 +63,8 @@ std::string EtiquetaS(int s, int c, int r) {
     return Unir({"S", N(s), EtiquetaC(c, r)});
 }
 
-// A level of a check: its line, its findings, and the all-clear when the findings added no
-// error, which a level with warnings only gets as well.
+// A level of a check: its line, its findings, the all-clear when the findings added no
+// error (a level with warnings only gets it as well), and the blank line that closes it.
 template <typename Hallazgos>
 void Nivel(InformeErrores& informe, const char* linea, Hallazgos&& hallazgos) {
     informe.Agregar(linea);
@@ -73,6 +73,7 @@ void Nivel(InformeErrores& informe, const char* linea, Hallazgos&& hallazgos) {
     if (informe.Errores() == errores) {
         informe.Agregar(kSinErrores);
     }
+    informe.Agregar("");
 }
 
 // A check whose whole body is one count that must hold something; its finding, of whatever
@@ -514,7 +515,6 @@ void ComprobarNombresRepetidosComponentes(const Modelo& modelo, InformeErrores& 
                 });
         }
     });
-    informe.Agregar("");
 }
 
 void ComprobarExistenciaRequerimientos(const Modelo& modelo, InformeErrores& informe) {
@@ -574,7 +574,6 @@ void ComprobarNombresRepetidosRequerimientos(const Modelo& modelo, InformeErrore
                 });
         });
     });
-    informe.Agregar("");
 }
 
 void ComprobarPesosNulos(const Modelo& modelo, InformeErrores& informe) {
@@ -605,7 +604,6 @@ void ComprobarPesosNulos(const Modelo& modelo, InformeErrores& informe) {
             }
         });
     });
-    informe.Agregar("");
 }
 
 void ComprobarConsistencia(const Modelo& modelo, InformeErrores& informe) {
@@ -638,7 +636,6 @@ void ComprobarConsistencia(const Modelo& modelo, InformeErrores& informe) {
             }
         });
     });
-    informe.Agregar("");
 }
 
 void ComprobarFuncionValor(const Modelo& modelo, InformeErrores& informe) {
@@ -652,7 +649,6 @@ void ComprobarFuncionValor(const Modelo& modelo, InformeErrores& informe) {
             });
         });
     });
-    informe.Agregar("");
 }
 
 void ComprobarArbolIncompleto(const Modelo& modelo, InformeErrores& informe) {
@@ -677,7 +673,6 @@ void ComprobarArbolIncompleto(const Modelo& modelo, InformeErrores& informe) {
                 });
         });
     }
-    informe.Agregar("");
 }
 
 } // namespace vadro

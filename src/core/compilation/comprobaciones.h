@@ -8,8 +8,9 @@
 namespace vadro {
 
 // The nine checks of a compilation, in the order in which they run and appear in the report.
-// Each appends its heading, its levels with their findings and a closing blank line to the
-// report; none changes the model. Nodes are labelled by their positions, deepest first
+// Each appends its heading, then its levels, each with its findings and a closing blank line
+// (a check without levels closes its one body so); none changes the model. Nodes are labelled by
+// their positions, deepest first
 // ("I3S1C2R1"), and each finding carries an error key: a key word, a blank and the place.
 
 void ComprobarExistenciaEtapas(const Modelo& modelo, InformeErrores& informe);

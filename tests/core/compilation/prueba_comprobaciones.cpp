@@ -2,6 +2,7 @@
 // keys, and the rules behind the findings.
 
 #include "core/compilation/comprobaciones.h"
+#include "soporte/datos.h"
 #include "soporte/modelo_sano.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +13,6 @@ namespace vadro {
 namespace {
 
 using pruebas::Criterio;
-using pruebas::Esperado;
 using pruebas::Indicador;
 using pruebas::Requerimiento;
 using pruebas::Subcriterio;
@@ -34,57 +34,47 @@ TEST(ComprobacionesDeCuenta, AnEmptyZeroOrNegativeCountIsAFindingInsteadOfTheAll
     };
     const std::vector<Caso> casos = {
         {ComprobarExistenciaEtapas, &Modelo::NumEtapas, "COMPROBACION DEL CICLO DE VIDA",
-         "     Aviso: no se han definido etapas del ciclo de vida | SinEta"},
+         "     Aviso: no se han definido etapas del ciclo de vida\tSinEta"},
         {ComprobarExistenciaComponentes, &Modelo::NumComponentes,
          "COMPROBACION DE EXISTENCIA DE COMPONENTES",
-         "     Aviso: no se han definido componentes | SinCmp"},
+         "     Aviso: no se han definido componentes\tSinCmp"},
         {ComprobarExistenciaRequerimientos, &Modelo::NumRequerimientos,
          "COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS",
-         "     Error: no se ha definido arbol de requerimientos | SinReq"}};
+         "     Error: no se ha definido arbol de requerimientos\tSinReq"}};
     for (const Caso& caso : casos) {
-        for (const ValorLibre& cuenta :
-             {ValorLibre(), ValorLibre(0), ValorLibre(-1), ValorLibre("0")}) {
+        for (const auto& [cuenta, hay] :
+             std::vector<std::pair<ValorLibre, bool>>{{ValorLibre(), false},
+                                                      {ValorLibre(0), false},
+                                                      {ValorLibre(-1), false},
+                                                      {ValorLibre("0"), false},
+                                                      {ValorLibre(1), true},
+                                                      {ValorLibre(" 2 "), true}}) {
             Modelo modelo;
             modelo.*caso.cuenta = cuenta;
+            const std::string cuerpo = hay ? "     <sin errores>\t" : caso.hallazgo;
             EXPECT_EQ(Seccion(caso.comprobacion, modelo),
-                      Esperado(caso.encabezado + "\n" + caso.hallazgo + "\n\n"))
+                      caso.encabezado + "\t\n" + cuerpo + "\n\t\n")
                 << cuenta.Texto();
-        }
-        for (const ValorLibre& cuenta : {ValorLibre(1), ValorLibre(" 2 ")}) {
-            Modelo modelo;
-            modelo.*caso.cuenta = cuenta;
-            EXPECT_EQ(Seccion(caso.comprobacion, modelo),
-                      Esperado(caso.encabezado + "\n     <sin errores>\n\n"));
         }
     }
 }
 
-TEST(NombresRepetidos, ComponentsAndTheOptionsOfOneComponentPairUpWhateverTheirCase) {
+// Components and options that share names whatever their case.
+Modelo ModeloComponentesRepetidos() {
     Modelo modelo;
     pruebas::PonerComponentes(modelo, {{"Bomba", {"Eje", "eje"}},
                                        {"Válvula", {"Eje"}},
                                        {"BOMBA", {}},
                                        {"VÁLVULA", {}},
                                        {"bomba", {"Junta", "Sello", "JUNTA"}}});
-    EXPECT_EQ(Seccion(ComprobarNombresRepetidosComponentes, modelo), Esperado(R"(
-COMPROBACION DE REPETICION DE NOMBRES EN COMPONENTES
-** nivel de componentes **
-     Error: los nodos C1 y C3 tienen el mismo nombre (Bomba) | CmpRep Co3
-     Error: los nodos C1 y C5 tienen el mismo nombre (Bomba) | CmpRep Co5
-     Error: los nodos C2 y C4 tienen el mismo nombre (Válvula) | CmpRep Co4
-     Error: los nodos C3 y C5 tienen el mismo nombre (BOMBA) | CmpRep Co5
-** nivel de opciones **
-     Error: los nodos O1C1 y O2C1 tienen el mismo nombre (Eje) | CmpRep Op2Co1
-     Error: los nodos O1C5 y O3C5 tienen el mismo nombre (Junta) | CmpRep Op3Co5
-
-)"));
+    return modelo;
 }
 
 // Requirements "Agua", "AGUA", "agua"; under R1 two criteria of one name, the first with two
 // subcriteria of one name, two indicators of one name under the first subcriterion and two
 // under the criterion itself; the same names again under other parents.
 Modelo ModeloNombresRepetidos() {
-    Modelo modelo = pruebas::ModeloCon(
+    return pruebas::ModeloCon(
         {Requerimiento("Agua",
                        {Criterio("Calidad", {Indicador("pH"), Indicador("PH")},
                                  {Subcriterio("Turbidez", {Indicador("NTU"), Indicador("ntu")}),
@@ -92,49 +82,10 @@ Modelo ModeloNombresRepetidos() {
                         Criterio("calidad", {Indicador("NTU"), Indicador("pH")})}),
          Requerimiento("AGUA", {Criterio("Calidad", {Indicador("Turbidez")})}),
          Requerimiento("agua", {})});
-    return modelo;
 }
 
-TEST(NombresRepetidos, SiblingsPairUpAtEveryLevelAndTheKeyNamesTheSecondOfThePair) {
-    EXPECT_EQ(Seccion(ComprobarNombresRepetidosRequerimientos, ModeloNombresRepetidos()),
-              Esperado(R"(
-COMPROBACION DE REPETICION DE NOMBRES EN REQUERIMIENTOS
-** nivel de requerimientos **
-     Error: los nodos R1 y R2 tienen el mismo nombre (Agua) | ReqRep R2
-     Error: los nodos R1 y R3 tienen el mismo nombre (Agua) | ReqRep R3
-     Error: los nodos R2 y R3 tienen el mismo nombre (AGUA) | ReqRep R3
-** nivel de criterios **
-     Error: los nodos C1R1 y C2R1 tienen el mismo nombre (Calidad) | ReqRep C2R1
-** nivel de subcriterios **
-     Error: los nodos S1C1R1 y S2C1R1 tienen el mismo nombre (Turbidez) | ReqRep S2C1R1
-** nivel de indicadores **
-     Error: los nodos I1S1C1R1 y I2S1C1R1 tienen el mismo nombre: NTU | ReqRep I2S1C1R1
-     Error: los nodos I1C1R1 y I2C1R1 tienen el mismo nombre (pH) | ReqRep I2C1R1
-
-)"));
-}
-
-TEST(NombresRepetidos, WithoutTheSubcriteriaLevelTheirIndicatorsAreStillCompared) {
-    Modelo modelo = ModeloNombresRepetidos();
-    modelo.ConSubcriterios = false;
-    const std::string seccion = Seccion(ComprobarNombresRepetidosRequerimientos, modelo);
-    EXPECT_EQ(seccion.find("subcriterios"), std::string::npos);
-    EXPECT_EQ(seccion.find("S2C1R1"), std::string::npos);
-    EXPECT_NE(seccion.find("I2S1C1R1 tienen el mismo nombre: NTU"), std::string::npos);
-}
-
-TEST(NombresRepetidos, NamesCompareInUpperCaseAccentsIncluded) {
-    EXPECT_EQ(NombreComparable("Válvula de paso ñ"), "VÁLVULA DE PASO Ñ");
-    EXPECT_EQ(NombreComparable("cœur"), "CŒUR");
-    EXPECT_EQ(NombreComparable("ÿ"), "Ÿ");
-    EXPECT_EQ(NombreComparable("ω"), "ω") << "a character the 8-bit page lacks stays";
-    EXPECT_NE(NombreComparable("ω"), NombreComparable("Ω"));
-    EXPECT_NE(NombreComparable("a"), NombreComparable("á"));
-}
-
-// ---- weights
-
-TEST(PesosNulos, AnEmptyWeightIsAnErrorAtEveryLevelAndAZeroWeightPasses) {
+// Empty weights at every level beside weights of zero, which pass.
+Modelo ModeloPesosNulos() {
     Modelo modelo = pruebas::ModeloCon(
         {Requerimiento("A", {Criterio("C", {Indicador("i")},
                                       {Subcriterio("S", {Indicador("i"), Indicador("j")})})}),
@@ -147,35 +98,13 @@ TEST(PesosNulos, AnEmptyWeightIsAnErrorAtEveryLevelAndAZeroWeightPasses) {
     criterio.Subcriterios(1).Indicadores(1).Peso = "";
     criterio.Subcriterios(1).Indicadores(2).Peso = 0.0;
     criterio.Indicadores(1).Peso = "";
-    EXPECT_EQ(Seccion(ComprobarPesosNulos, modelo), Esperado(R"(
-COMPROBACION DE PESOS NULOS
-** nivel de requerimientos **
-     Error: el nodo R2 tiene peso nulo | PesNul R2
-** nivel de criterios **
-     Error: el nodo C1R1 tiene peso nulo | PesNul C1R1
-** nivel de subcriterios **
-     Error: el nodo S1C1R1 tiene peso nulo | PesNul S1C1R1
-** nivel de indicadores **
-     Error: el nodo I1S1C1R1 tiene peso nulo | PesNul I1S1C1R1
-     Error: el nodo I1C1R1 tiene peso nulo | PesNul I1C1R1
-
-)"));
-    modelo.ConSubcriterios = false;
-    EXPECT_EQ(Seccion(ComprobarPesosNulos, modelo), Esperado(R"(
-COMPROBACION DE PESOS NULOS
-** nivel de requerimientos **
-     Error: el nodo R2 tiene peso nulo | PesNul R2
-** nivel de criterios **
-     Error: el nodo C1R1 tiene peso nulo | PesNul C1R1
-** nivel de indicadores **
-     Error: el nodo I1S1C1R1 tiene peso nulo | PesNul I1S1C1R1
-     Error: el nodo I1C1R1 tiene peso nulo | PesNul I1C1R1
-
-)"));
+    return modelo;
 }
 
-// Only the first node of a set is looked at: the set's values are alike on all of them.
-TEST(Consistencia, EmptyMatricesAreErrorsAndInconsistentPairwiseOnesWarnings) {
+// Empty and inconsistent matrices of every kind of set; the set's values stand on its first
+// node only, so the later nodes' values must not count. The criteria of R2 are weighted
+// directly, which no ratio makes inconsistent.
+Modelo ModeloConsistencia() {
     Modelo modelo =
         pruebas::ModeloCon({Requerimiento("A", {Criterio("C", {Indicador("i")},
                                                          {Subcriterio("S", {Indicador("i")}),
@@ -196,42 +125,88 @@ TEST(Consistencia, EmptyMatricesAreErrorsAndInconsistentPairwiseOnesWarnings) {
     c1r2.Subcriterios(1).Indicadores(1).PesoAuxiliar = 0.3;
     c1r2.Indicadores(1).PesoAuxiliar = 0.1000001;
     c1r2.Indicadores(2).Peso = "";
-    EXPECT_EQ(Seccion(ComprobarConsistencia, modelo), Esperado(R"(
-COMPROBACION DE MATRICES NO CONSISTENTES
-** nivel de requerimientos **
-     Error: la matriz de pesos de los requerimientos está vacía | NoCons R
-** nivel de criterios **
-     Aviso: la matriz de criterios del requerimiento R1 no es consistente (consistencia > 0.1) | NoCons CR1
-     <sin errores>
-** nivel de subcriterios **
-     Error: la matriz pesos de los subcriterios del criterio C1R1 está vacía | NoCons SC1R1
-     Aviso: la matriz de subcriterios del criterio C1R2 no es consistente (consistencia > 0.1) | NoCons SC1R2
-** nivel de indicadores **
-     Error: la matriz de pesos de los indicadores del subcriterio S1C1R1 está vacía, , 1 | NoCons I0S1C1R1
-     Error: la matriz de pesos de los indicadores del criterio C1R1 está vacía | NoCons I0C1R1
-     Aviso: la matriz de indicadores del subcriterio S1C1R2 no es consistente (consistencia > 0.1) | NoCons I0S1C1R2
-     Aviso: la matriz de indicadores del criterio C1R2 no es consistente (consistencia > 0.1) | NoCons I0C1R2
-
-)"));
+    return modelo;
 }
 
-TEST(Consistencia, ARatioOverTheThresholdWarnsOnlyInPairwiseModeAndAnUnknownRatioPasses) {
+// A ratio just over the threshold, one never computed, and a direct set with a high one.
+Modelo ModeloUmbral() {
     Modelo modelo = pruebas::ModeloCorrecto();
     modelo.Requerimientos(1).PesoAuxiliar = 0.11;
     modelo.Requerimientos(1).Criterios(1).PesoAuxiliar = "";
     modelo.Requerimientos(2).Criterios(1).Calculo = CalculoDirecto;
     modelo.Requerimientos(2).Criterios(1).PesoAuxiliar = 0.9;
-    EXPECT_EQ(Seccion(ComprobarConsistencia, modelo), Esperado(R"(
-COMPROBACION DE MATRICES NO CONSISTENTES
-** nivel de requerimientos **
-     Aviso: la matriz de requerimientos no es consistente (consistencia > 0.1) | NoCons R
-     <sin errores>
-** nivel de criterios **
-     <sin errores>
-** nivel de indicadores **
-     <sin errores>
+    return modelo;
+}
 
-)"));
+// Functions under a subcriterion come first; a step function gives two lines, an optional
+// indicators function none; the model does not use subcriteria, their indicators still count.
+Modelo ModeloFunciones() {
+    FuncionValor escalones = pruebas::DeEscalones<FuncionValor>();
+    escalones.Escalones(1).Valor = 0.2;
+    escalones.Escalones(3).Valor = 0.9;
+    Modelo modelo = pruebas::ModeloCon({Requerimiento(
+        "A", {Criterio("C", {Indicador("i", escalones), Indicador("j", pruebas::DeOptativos("x"))},
+                       {Subcriterio("S", {Indicador("i", {})})})})});
+    modelo.ConSubcriterios = false;
+    return modelo;
+}
+
+// R1 with an empty count of criteria; R2 with one criterion that has nothing; R3 with a
+// criterion of one subcriterion and one indicator, one of one indicator, and one of two
+// subcriteria, the first empty and the second with one indicator.
+Modelo ModeloRamas() {
+    Modelo modelo = pruebas::ModeloCon(
+        {Requerimiento("A", {}), Requerimiento("B", {Criterio("C", {})}),
+         Requerimiento(
+             "C",
+             {Criterio("C", {Indicador("i")}, {Subcriterio("S", {Indicador("i"), Indicador("j")})}),
+              Criterio("D", {Indicador("i")}),
+              Criterio("E", {}, {Subcriterio("S", {}), Subcriterio("T", {Indicador("i")})})})});
+    modelo.Requerimientos(1).NumCriterios = "";
+    return modelo;
+}
+
+Modelo SinNivelSubcriterios(Modelo modelo) {
+    modelo.ConSubcriterios = false;
+    return modelo;
+}
+
+// Each check's whole section, lines and keys, as the data files hold it.
+TEST(Comprobaciones, TheSectionsOfModelsMadeForTheirFindings) {
+    struct Caso {
+        std::string nombre;
+        Comprobacion comprobacion;
+        Modelo modelo;
+    };
+    const std::vector<Caso> casos = {
+        {"componentes_repetidos", ComprobarNombresRepetidosComponentes,
+         ModeloComponentesRepetidos()},
+        {"nombres_repetidos", ComprobarNombresRepetidosRequerimientos, ModeloNombresRepetidos()},
+        {"nombres_repetidos_sin_subcriterios", ComprobarNombresRepetidosRequerimientos,
+         SinNivelSubcriterios(ModeloNombresRepetidos())},
+        {"pesos_nulos", ComprobarPesosNulos, ModeloPesosNulos()},
+        {"pesos_nulos_sin_subcriterios", ComprobarPesosNulos,
+         SinNivelSubcriterios(ModeloPesosNulos())},
+        {"consistencia", ComprobarConsistencia, ModeloConsistencia()},
+        {"consistencia_umbral", ComprobarConsistencia, ModeloUmbral()},
+        {"funciones", ComprobarFuncionValor, ModeloFunciones()},
+        {"ramas", ComprobarArbolIncompleto, ModeloRamas()},
+        {"ramas_sin_subcriterios", ComprobarArbolIncompleto, SinNivelSubcriterios(ModeloRamas())},
+    };
+    for (const Caso& caso : casos) {
+        const std::string seccion = Seccion(caso.comprobacion, caso.modelo);
+        EXPECT_EQ(seccion, pruebas::Datos("comprobaciones/" + caso.nombre + ".txt", seccion))
+            << caso.nombre;
+    }
+}
+
+TEST(NombresRepetidos, NamesCompareInUpperCaseAccentsIncluded) {
+    EXPECT_EQ(NombreComparable("Válvula de paso ñ"), "VÁLVULA DE PASO Ñ");
+    EXPECT_EQ(NombreComparable("cœur"), "CŒUR");
+    EXPECT_EQ(NombreComparable("ÿ"), "Ÿ");
+    EXPECT_EQ(NombreComparable("ω"), "ω") << "a character the 8-bit page lacks stays";
+    EXPECT_NE(NombreComparable("ω"), NombreComparable("Ω"));
+    EXPECT_NE(NombreComparable("a"), NombreComparable("á"));
 }
 
 // ---- value functions
@@ -323,28 +298,20 @@ TEST(FuncionesDeValor, AStepFunctionIsCheckedForItsLimitsThenForItsSteps) {
 }
 
 TEST(FuncionesDeValor, AScoringFunctionIsAContinuousOneAndEachIncompleteElementOneMoreLine) {
-    const auto puntuacion = [](int32_t tipo, const std::string& nombre, ValorLibre minimo,
-                               ValorLibre maximo, ValorLibre no, ValorLibre si) {
-        return Puntuacion{tipo,          nombre,       std::move(minimo), std::move(maximo),
-                          std::move(no), std::move(si)};
-    };
     FuncionValor f = pruebas::Continua();
     f.Tipo = FuncionPuntuacion;
-    const std::vector<Puntuacion> elementos = {
-        puntuacion(PuntuacionBooleana, "Tiene licencia", "", "", 0.0, 1.0),
-        puntuacion(PuntuacionBooleana, "", "", "", 0.0, 1.0),
-        puntuacion(PuntuacionBooleana, "Avalada", 1.0, 2.0, 0.0, ""),
-        puntuacion(PuntuacionNumerica, "Años", 0.0, 10.0, 0.0, 1.0),
-        puntuacion(PuntuacionNumerica, "Plantilla", 0.0, "", 0.0, 1.0),
-        puntuacion(PuntuacionNumerica, "Obras", "", 5.0, 0.0, 1.0)};
     f.Puntuaciones.Redimensionar(6);
-    std::copy(elementos.begin(), elementos.end(), f.Puntuaciones.begin());
-    const std::vector<std::string> cuatro(4, kPuntuacion);
-    EXPECT_EQ(Hallazgos(f), cuatro);
+    f.Puntuaciones(1) = {PuntuacionBooleana, "Tiene licencia", "", "", 0.0, 1.0};
+    f.Puntuaciones(2) = {PuntuacionBooleana, "", "", "", 0.0, 1.0};
+    f.Puntuaciones(3) = {PuntuacionBooleana, "Avalada", 1.0, 2.0, 0.0, ""};
+    f.Puntuaciones(4) = {PuntuacionNumerica, "Años", 0.0, 10.0, 0.0, 1.0};
+    f.Puntuaciones(5) = {PuntuacionNumerica, "Plantilla", 0.0, "", 0.0, 1.0};
+    f.Puntuaciones(6) = {PuntuacionNumerica, "Obras", "", 5.0, 0.0, 1.0};
+    std::vector<std::string> lineas(4, kPuntuacion);
+    EXPECT_EQ(Hallazgos(f), lineas);
     f.Unidades = "";
-    std::vector<std::string> cinco = {kSinUnidades};
-    cinco.insert(cinco.end(), cuatro.begin(), cuatro.end());
-    EXPECT_EQ(Hallazgos(f), cinco);
+    lineas.insert(lineas.begin(), kSinUnidades);
+    EXPECT_EQ(Hallazgos(f), lineas);
 }
 
 TEST(FuncionesDeValor, OptionalIndicatorsAndUnknownKindsAreTakenAsTheyStand) {
@@ -355,68 +322,6 @@ TEST(FuncionesDeValor, OptionalIndicatorsAndUnknownKindsAreTakenAsTheyStand) {
     }
     EXPECT_EQ(Hallazgos(FuncionValor{}),
               std::vector<std::string>{" no tiene funcion de valor asignada"});
-}
-
-TEST(FuncionesDeValor, TheSectionLabelsIndicatorsOfSubcriteriaFirstAndWarnsOfNothing) {
-    FuncionValor escalones = Escalones({{"=0", "<5", 0.2}, {"=5", "=10", 0.9}});
-    FuncionValor optativos;
-    optativos.Tipo = FuncionOptativos;
-    Modelo modelo = pruebas::ModeloCon(
-        {Requerimiento("A", {Criterio("C", {Indicador("i", escalones), Indicador("j", optativos)},
-                                      {Subcriterio("S", {Indicador("i", {})})})})});
-    modelo.ConSubcriterios = false;
-    EXPECT_EQ(Seccion(ComprobarFuncionValor, modelo), Esperado(R"(
-COMPROBACION DE FUNCIONES DE VALOR
-** nivel de indicadores **
-     Error: el nodo I1S1C1R1 no tiene funcion de valor asignada | FunVal I1S1C1R1
-     Error: el nodo I1C1R1 tiene una funcion de valor de tipo escalón con el mínimo diferente de 0 | FunVal I1C1R1
-     Error: el nodo I1C1R1 tiene una funcion de valor de tipo escalón con el máximo diferente de 1 | FunVal I1C1R1
-
-)"));
-}
-
-// ---- incomplete branches
-
-// R1 with an empty count of criteria; R2 with one criterion that has nothing; R3 with a
-// criterion of one subcriterion and one indicator, one of one indicator, and one of two
-// subcriteria, the first empty and the second with one indicator.
-Modelo ModeloRamas() {
-    Modelo modelo = pruebas::ModeloCon(
-        {Requerimiento("A", {}), Requerimiento("B", {Criterio("C", {})}),
-         Requerimiento(
-             "C",
-             {Criterio("C", {Indicador("i")}, {Subcriterio("S", {Indicador("i"), Indicador("j")})}),
-              Criterio("D", {Indicador("i")}),
-              Criterio("E", {}, {Subcriterio("S", {}), Subcriterio("T", {Indicador("i")})})})});
-    modelo.Requerimientos(1).NumCriterios = "";
-    return modelo;
-}
-
-TEST(RamasIncompletas, ChildlessNodesAreErrorsAndOnlyChildrenWarnings) {
-    EXPECT_EQ(Seccion(ComprobarArbolIncompleto, ModeloRamas()), Esperado(R"(
-COMPROBACION DE RAMAS INCOMPLETAS
-** nivel de requerimientos **
-     Error: el nodo R1 no tiene criterios | SinHij R1
-     Aviso: el nodo R2 solo tiene un criterio | SinHij R2
-** nivel de criterios **
-     Error: el nodo C1R2 no tiene subcriterios ni indicadores | SinHij C1R2
-     Aviso: el nodo C1R3 solo tiene un subcriterio | SinHij C1R3
-     Aviso: el nodo C2R3 solo tiene un indicador | SinHij C2R3
-** nivel de subcriterios **
-     Error: el nodo S1C3R3 no tiene indicadores | SinHij S1C3R3
-     Aviso: el nodo S2C3R3 solo tiene un indicador | SinHij S2C3R3
-
-)"));
-}
-
-TEST(RamasIncompletas, AModelWithoutTheSubcriteriaLevelSpeaksOfIndicatorsOnly) {
-    Modelo modelo = ModeloRamas();
-    modelo.ConSubcriterios = false;
-    const std::string seccion = Seccion(ComprobarArbolIncompleto, modelo);
-    EXPECT_NE(seccion.find("     Error: el nodo C1R2 no tiene indicadores\tSinHij C1R2\n"),
-              std::string::npos);
-    EXPECT_EQ(seccion.find("** nivel de subcriterios **"), std::string::npos);
-    EXPECT_EQ(seccion.find("S1C3R3"), std::string::npos);
 }
 
 TEST(RamasIncompletas, TheSubcriteriaLevelNeedsARealSubcriterionAsWellAsTheSetting) {

@@ -24,20 +24,6 @@ protected:
     const std::string kNoValido = "Fichero no válido o formato de datos incorrecto.\r\n";
 };
 
-TEST_F(ComponentesEtapas, TheLinesOfBothSections) {
-    ArchivoSalida salida;
-    const Modelo m = ConComponentesYEtapas();
-    GuardarComponentes(m, salida, "");
-    GuardarEtapas(m, salida, "");
-    EXPECT_EQ(salida.Lineas(), (std::vector<std::string>{
-                                   "*****COMPONENTES*****", "CMP_NUM =  2 ", "CMP_C1_NOM = Bombas",
-                                   "CMP_C1_NUM =  1 ", "CMP_S1C1_NOM = Motor",
-                                   "CMP_C2_NOM = Tuber\xED"
-                                   "as",
-                                   "CMP_C2_NUM =  0 ", "*****ETAPAS*****", "ETA_NUM =  2 ",
-                                   "ETA_NOM1 = Dise\xF1o", "ETA_NOM2 =  Obra"}));
-}
-
 TEST_F(ComponentesEtapas, EmptyAndNonPositiveCountsWriteTheZeroLine) {
     Modelo m;
     m.NumEtapas = -1;
