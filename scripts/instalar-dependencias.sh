@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the build, the tests and the screenshots need on Debian 12, skipping what is there.
 set -euo pipefail
-paquetes=(cmake ninja-build g++ clang libgtest-dev libbenchmark-dev qt6-base-dev qt6-base-dev-tools
+paquetes=(cmake ninja-build g++ clang libgtest-dev libbenchmark-dev qt6-base-dev qt6-base-dev-tools qt6-translations-l10n
           libgl-dev fontconfig fonts-dejavu-core xvfb xauth locales)
 faltan=()
 for p in "${paquetes[@]}"; do

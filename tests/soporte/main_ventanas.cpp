@@ -1,4 +1,6 @@
 // The test program of the windows: a real application on the offscreen platform.
+#include "windows/core/servicios_qt.h"
+
 #include <QApplication>
 
 #include <gtest/gtest.h>
@@ -10,6 +12,8 @@ int main(int argc, char** argv) {
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
     }
     QApplication aplicacion(argc, argv);
+    // The tests see Qt's own dialogs as a user does, in Spanish.
+    vadro::CargarTraduccionQt();
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

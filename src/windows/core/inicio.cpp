@@ -76,6 +76,7 @@ int Main(int argc, char* argv[]) {
     SesionActual().DirectorioPrograma =
         ResolverDirectorioPrograma(ACadena(QCoreApplication::applicationDirPath()));
     InstalarServiciosQt();
+    CargarTraduccionQt();
     Arranque arranque;
     try {
         if (!arranque.Iniciar()) {

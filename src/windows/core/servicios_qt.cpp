@@ -6,8 +6,12 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QHeaderView>
+#include <QLibraryInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTranslator>
+#include <QTreeView>
 
 namespace vadro {
 
@@ -74,6 +78,19 @@ Respuesta MostrarMensajeQt(const Mensaje& mensaje) {
                : (mensaje.botones == Botones::SiNo ? Respuesta::No : Respuesta::Cancelar);
 }
 
+// Where the dialog shows its files in columns, each is wide enough to be read.
+void AnchoColumnas(QFileDialog& dialogo) {
+    for (QTreeView* lista : dialogo.findChildren<QTreeView*>()) {
+        QHeaderView* cabecera = lista->header();
+        cabecera->setMinimumSectionSize(
+            dialogo.fontMetrics().horizontalAdvance(QStringLiteral("MMMMMMMM")));
+        cabecera->setSectionResizeMode(0, QHeaderView::Stretch);
+        for (int columna = 1; columna < cabecera->count(); ++columna) {
+            cabecera->setSectionResizeMode(columna, QHeaderView::ResizeToContents);
+        }
+    }
+}
+
 std::optional<std::string> MostrarDialogoQt(const PeticionDialogo& peticion) {
     QFileDialog dialogo(QApplication::activeWindow(), Q(peticion.titulo),
                         Q(peticion.directorioInicial));
@@ -91,6 +108,7 @@ std::optional<std::string> MostrarDialogoQt(const PeticionDialogo& peticion) {
     if (!peticion.nombreArchivo.empty()) {
         dialogo.selectFile(Q(peticion.nombreArchivo));
     }
+    AnchoColumnas(dialogo);
     if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
@@ -110,6 +128,20 @@ QStringList FiltrosQt(const QString& filtro) {
         filtros << (partes[i].endsWith(final) ? partes[i] : partes[i] + QLatin1Char(' ') + final);
     }
     return filtros;
+}
+
+bool CargarTraduccionQt() {
+    static QTranslator traduccion;
+    const QStringList carpetas = {QCoreApplication::applicationDirPath() +
+                                      QStringLiteral("/translations"),
+                                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)};
+    for (const QString& carpeta : carpetas) {
+        if (traduccion.load(QStringLiteral("qtbase_es"), carpeta)) {
+            QCoreApplication::installTranslator(&traduccion);
+            return true;
+        }
+    }
+    return false;
 }
 
 void InstalarServiciosQt() {

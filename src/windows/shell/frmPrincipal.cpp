@@ -25,11 +25,14 @@
 #include "windows/weighting/frmPonderacion.h"
 #include "windows/weighting/frmPreguntarPonderacion.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLayout>
 #include <QLinearGradient>
 #include <QMenuBar>
 #include <QPainter>
@@ -46,6 +49,8 @@ namespace vadro {
 namespace {
 
 constexpr const char* kTitulo = "VADRO PROGRAMADOR";
+
+constexpr int kAnchoPanel = 230;
 
 // The picture behind a child window.
 class Fondo : public QWidget {
@@ -162,7 +167,7 @@ void frmPrincipal::CrearPanelPasos() {
     pctPrincipal = new QFrame(this);
     pctPrincipal->setObjectName(Q("pctPrincipal"));
     pctPrincipal->setFrameShape(QFrame::StyledPanel);
-    pctPrincipal->setFixedWidth(230);
+    pctPrincipal->setFixedWidth(kAnchoPanel);
     auto* columna = new QVBoxLayout(pctPrincipal);
     columna->setSpacing(4);
     for (int i = 0; i < kNumEtiquetas; ++i) {
@@ -369,6 +374,12 @@ void frmPrincipal::ConectarMenus() {
 
 void frmPrincipal::AjustarControles() {
     AjustarFuente(*this);
+    // The panel widens with the font so that its two buttons are never cut.
+    const QMargins margenes = pctPrincipal->layout()->contentsMargins();
+    const int botones = cmdRetroceder->sizeHint().width() + cmdContinuar->sizeHint().width() +
+                        pctPrincipal->layout()->spacing() + margenes.left() + margenes.right() +
+                        2 * pctPrincipal->frameWidth();
+    pctPrincipal->setFixedWidth(std::max(kAnchoPanel, botones));
 }
 
 // ---- Model commands

@@ -4,6 +4,7 @@
 #include "windows/core/frmPreferencias.h"
 
 #include <QComboBox>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -86,7 +87,7 @@ TEST_F(VentanaPrincipal_, TheChildWindowsBearTheirCaptions) {
     EXPECT_EQ(Hija("frmInforme")->windowTitle().toStdString(), "Informe final");
 }
 
-TEST_F(VentanaPrincipal_, OrganizarPutsTheChildWindowsInCascade) {
+TEST_F(VentanaPrincipal_, OrganizarPutsTheChildWindowsInCascadeAtAUsableSize) {
     NuevoModelo();
     PulsarEtiqueta(1);
     PulsarEtiqueta(2);
@@ -95,6 +96,12 @@ TEST_F(VentanaPrincipal_, OrganizarPutsTheChildWindowsInCascade) {
     ASSERT_EQ(marcos.size(), 3);
     EXPECT_LT(marcos[0]->pos().y(), marcos[1]->pos().y());
     EXPECT_LT(marcos[1]->pos().y(), marcos[2]->pos().y());
+    const QSize cliente = principal.mdiCliente->viewport()->size();
+    for (QMdiSubWindow* marco : marcos) {
+        EXPECT_GE(marco->width(), cliente.width() / 3) << marco->objectName().toStdString();
+        EXPECT_GE(marco->height(), cliente.height() / 3) << marco->objectName().toStdString();
+        EXPECT_GE(marco->width(), marco->minimumSizeHint().width());
+    }
 }
 
 TEST_F(VentanaPrincipal_, TheAutosaveTimerStandsIdle) {
@@ -121,6 +128,11 @@ TEST_F(VentanaPrincipal_, ANewFontSizeKeepsTheLookOfTheStepLabels) {
     EXPECT_EQ(principal.lblMenu[1]->font().pointSize(), 12);
     EsperarPendiente(1);
     EsperarNormal(4);
+    principal.pctPrincipal->layout()->activate();
+    for (QPushButton* boton : {principal.cmdRetroceder, principal.cmdContinuar}) {
+        EXPECT_GE(boton->width(), boton->sizeHint().width())
+            << boton->objectName().toStdString() << " is not cut at the large size";
+    }
 }
 
 } // namespace
