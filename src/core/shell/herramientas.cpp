@@ -9,6 +9,7 @@
 #include "core/core/version.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
+#include "core/reports/informe_modelo.h"
 #include "core/weighting/calculo_pesos.h"
 
 #include <charconv>
@@ -39,6 +40,8 @@ const char* const kAyuda =
     "                           lleva su clave tras un tabulador.\n"
     "  compilar MODELO DESTINO  Escribe el modelo compilado (.vdc) si la comprobación no\n"
     "                           encuentra errores; si los encuentra, muestra el informe.\n"
+    "  informe MODELO           Muestra el texto del informe del modelo (UTF-8), con la\n"
+    "                           sangría de cada nivel y \"[gráfica]\" en lugar de cada gráfica.\n"
     "  pesos                    Lee de la entrada estándar una matriz de comparación por\n"
     "                           pares, una fila por línea, celdas separadas por blancos y\n"
     "                           \"-\" para una celda vacía (se admiten fracciones como 1/3);\n"
@@ -156,6 +159,15 @@ int Compilar(const std::vector<std::string>& args, std::ostream& salida) {
     return kCorrecto;
 }
 
+// The model report as plain text, from the same lines as the report window's.
+int InformeModelo(const std::vector<std::string>& args, std::ostream& salida) {
+    if (args.size() != 2) {
+        throw ErrorUso{"La orden informe necesita un MODELO."};
+    }
+    salida << TextoPlano(GenerarInforme(CargarOFallar(args[1])));
+    return kCorrecto;
+}
+
 // A cell of a typed matrix: "-" is empty, "a/b" a fraction, anything else a number.
 ValorLibre LeerCelda(const std::string& celda, int fila) {
     if (celda == "-") {
@@ -241,6 +253,9 @@ int EjecutarHerramientas(const std::vector<std::string>& argumentos, std::istrea
         }
         if (orden == "compilar") {
             return Compilar(argumentos, salida);
+        }
+        if (orden == "informe") {
+            return InformeModelo(argumentos, salida);
         }
         if (orden == "pesos") {
             return Pesos(argumentos, entrada, salida);
