@@ -1,0 +1,123 @@
+#include "core/files/modelo_archivo.h"
+#include "core/reports/informe_modelo.h"
+#include "modelos_informe.h"
+#include "soporte/datos.h"
+#include "soporte/prueba_sesion.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <sys/wait.h>
+
+namespace vadro {
+namespace {
+
+using pruebas::ModeloCompleto;
+using pruebas::ModeloSinNombreNiPesos;
+
+TEST(GenerarInforme, AModelWithEveryKindOfFunction) {
+    EXPECT_EQ(TextoPlano(GenerarInforme(ModeloCompleto())),
+              pruebas::Datos("informe/completo.txt", TextoPlano(GenerarInforme(ModeloCompleto()))));
+}
+
+TEST(GenerarInforme, NoNameNoWeightsNoComponentsNoStages) {
+    const std::string texto = TextoPlano(GenerarInforme(ModeloSinNombreNiPesos()));
+    EXPECT_EQ(texto, pruebas::Datos("informe/sin_nombre_ni_pesos.txt", texto));
+}
+
+TEST(GenerarInforme, AnEmptyModelShowsEveryHeadingWithItsEmptyText) {
+    const std::string texto = TextoPlano(GenerarInforme(Modelo()));
+    EXPECT_EQ(texto, pruebas::Datos("informe/vacio.txt", texto));
+    Modelo ceros;
+    ceros.NumRequerimientos = 0;
+    ceros.NumComponentes = 0;
+    ceros.NumEtapas = 0;
+    EXPECT_EQ(TextoPlano(GenerarInforme(ceros)), texto) << "a count of 0 is no count at all";
+}
+
+TEST(GenerarInforme, HeadingsAreBoldLinesWithoutIndentAndEverythingElseIsPlain) {
+    const Informe informe = GenerarInforme(ModeloCompleto());
+    std::vector<std::string> encabezados;
+    for (const LineaInforme& linea : informe.Lineas()) {
+        for (const PiezaInforme& pieza : linea.Piezas) {
+            if (pieza.Tipo == TipoPieza::Texto && pieza.Letra.Negrita) {
+                encabezados.push_back(pieza.Texto);
+                EXPECT_EQ(std::tuple(linea.Nivel, linea.Sangria, linea.SangriaDerecha,
+                                     linea.Piezas.size()),
+                          std::tuple(1, 0, 0, std::size_t{1}));
+            }
+            if (pieza.Tipo == TipoPieza::Texto) {
+                EXPECT_EQ(std::tuple(pieza.Letra.Fuente, pieza.Letra.Tamano, pieza.Letra.Cursiva,
+                                     pieza.Letra.Subrayado),
+                          std::tuple(std::string_view("Verdana"), 11, false, false));
+            }
+        }
+    }
+    EXPECT_EQ(encabezados,
+              (std::vector<std::string>{"PUENTE DE ALCÁNTARA (V.2.1)", "Descripción del modelo",
+                                        "Arbol de requerimientos", "Componentes",
+                                        "Etapas del ciclo de vida"}));
+}
+
+TEST(ActualizarPaneles, EachPaneHoldsItsPartAsTheCompleteReportDoes) {
+    const PanelesInforme paneles = ActualizarPaneles(ModeloCompleto());
+    const std::string completo = TextoPlano(paneles.Completo);
+    EXPECT_EQ(completo, TextoPlano(GenerarInforme(ModeloCompleto())));
+    const std::pair<const Informe*, std::string> partes[] = {
+        {&paneles.Propiedades, "Descripción del modelo\n"},
+        {&paneles.Requerimientos, "Arbol de requerimientos\n"},
+        {&paneles.Componentes, "Componentes\n"},
+        {&paneles.Etapas, "Etapas del ciclo de vida\n"},
+    };
+    for (const auto& [panel, encabezado] : partes) {
+        const std::string texto = TextoPlano(*panel);
+        EXPECT_FALSE(texto.empty()) << encabezado;
+        EXPECT_NE(completo.find(encabezado + texto), std::string::npos) << encabezado;
+    }
+    const PanelesInforme vacios = ActualizarPaneles(Modelo());
+    for (const Informe* panel : {&vacios.Requerimientos, &vacios.Componentes, &vacios.Etapas}) {
+        EXPECT_EQ(TextoPlano(*panel), "") << "an empty part leaves its pane empty";
+    }
+}
+
+// The built companion, run as a user would.
+class InformeHerramientas : public pruebas::PruebaSesion {
+protected:
+    std::pair<int, std::string> Programa(const std::string& argumentos) {
+        const std::string orden =
+            "cd '" + Directorio() + "' && '" VADRO_HERRAMIENTAS "' " + argumentos + " 2> error.txt";
+        FILE* tubo = popen(orden.c_str(), "r");
+        std::string salida;
+        char bloque[4096];
+        std::size_t leidos = 0;
+        while ((leidos = fread(bloque, 1, sizeof bloque, tubo)) > 0) {
+            salida.append(bloque, leidos);
+        }
+        const int estado = pclose(tubo);
+        return {WEXITSTATUS(estado), salida};
+    }
+};
+
+TEST_F(InformeHerramientas, PrintsTheReportOfASavedModel) {
+    Modelo modelo = ModeloCompleto();
+    ASSERT_TRUE(GuardarModelo(modelo, Ruta("puente.vdm"), false));
+    const auto [estado, salida] = Programa("informe puente.vdm");
+    EXPECT_EQ(estado, 0) << Contenido(Ruta("error.txt"));
+    EXPECT_EQ(salida, pruebas::Datos("informe/completo.txt", salida))
+        << "a saved and loaded model reports as the records did";
+}
+
+TEST_F(InformeHerramientas, WrongArgumentsAndMissingFilesFail) {
+    const auto [sinModelo, nada] = Programa("informe");
+    EXPECT_EQ(sinModelo, 2);
+    EXPECT_EQ(nada, "");
+    EXPECT_NE(Contenido(Ruta("error.txt")).find("La orden informe necesita un MODELO."),
+              std::string::npos);
+    EXPECT_EQ(Programa("informe no-esta.vdm").first, 2);
+    EXPECT_NE(Contenido(Ruta("error.txt")).find("No se puede leer el modelo no-esta.vdm"),
+              std::string::npos);
+    EXPECT_NE(Programa("--help").second.find("  informe MODELO "), std::string::npos);
+}
+
+} // namespace
+} // namespace vadro
