@@ -68,7 +68,8 @@ struct LineaInforme {
 
 // Left indent of a level in twips: 1 none, 2 350, 3 700, 4 1050, any other 1290.
 int SangriaNivel(int nivel);
-// The same indent in plain text: two blanks a level, eight for any other level.
+// The same indent in plain text: two blanks for each level past the first (none at 1, six at
+// 4), eight for any other level.
 std::string BlancosNivel(int nivel);
 
 // The report under construction, as a rich-text pane is written: always at the end.
