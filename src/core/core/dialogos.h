@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace vadro {
 
@@ -27,8 +28,25 @@ struct PeticionDialogo {
     int flags = 0;
 };
 
-// Answers a request with the chosen path, or nothing when the user cancels.
-using FuncionDialogos = std::function<std::optional<std::string>(const PeticionDialogo&)>;
+// What the user chose: the path as typed or picked, and the filter that stood chosen, from
+// 1; 0 when the service does not tell it, and the request's filter counts.
+struct RespuestaDialogo {
+    RespuestaDialogo(std::string r, int filtro = 0) : ruta(std::move(r)), filtroElegido(filtro) {}
+    std::string ruta;
+    int filtroElegido = 0;
+};
+
+// Answers a request with the user's choice, or nothing when the user cancels.
+using FuncionDialogos = std::function<std::optional<RespuestaDialogo>(const PeticionDialogo&)>;
+
+// The extension a save dialog gives a name typed without one: that of the chosen filter when
+// its pattern names one ("*.vdm" gives ".vdm"); none for "*.*" or a list of patterns. With
+// no filter chosen, the request's (0 and 1 both the first).
+std::string ExtensionDelFiltro(const std::string& filtro, int indice);
+
+// The path a save dialog hands to its command: a name typed without an extension gets the
+// chosen filter's. An open dialog's path, and a name with an extension, stay as they are.
+std::string CompletarExtension(const PeticionDialogo& peticion, const RespuestaDialogo& respuesta);
 
 // Shows a file dialog through the service installed in the session. Cancelling is reported
 // to the command as the cancel error 32755.

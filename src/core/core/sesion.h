@@ -42,6 +42,9 @@ struct Sesion {
     Modelo modelo;
     Configuracion configuracion;
     std::string DirectorioPrograma;
+    // Set at the end of the first successful opening of a model; the open command asks about
+    // saving from then on, whatever `Modificado` says.
+    bool ModeloAbiertoAntes = false;
 
     Arreglo<FuncionOptativo> FuncionesEdicion; // the function editor's two working copies
     Matriz<ValorLibre> MatrizSaaty;

@@ -31,6 +31,9 @@ enum class Hija {
     Compilacion
 };
 
+// The three parts of a model that a design window edits and a template replaces.
+enum class ParteModelo { Requerimientos, Componentes, Etapas };
+
 // The object name of a child window: "frmEjes", "frmRequerimientos", ...
 const char* NombreHija(Hija hija);
 

@@ -2,6 +2,7 @@
 
 #include "core/core/dialogos.h"
 #include "core/core/mensajes.h"
+#include "windows/core/conectar.h"
 #include "windows/core/texto.h"
 
 #include <QApplication>
@@ -91,7 +92,7 @@ void AnchoColumnas(QFileDialog& dialogo) {
     }
 }
 
-std::optional<std::string> MostrarDialogoQt(const PeticionDialogo& peticion) {
+std::optional<RespuestaDialogo> MostrarDialogoQt(const PeticionDialogo& peticion) {
     QFileDialog dialogo(QApplication::activeWindow(), Q(peticion.titulo),
                         Q(peticion.directorioInicial));
     const bool guardar = peticion.tipo == TipoDialogo::Guardar;
@@ -100,10 +101,21 @@ std::optional<std::string> MostrarDialogoQt(const PeticionDialogo& peticion) {
     dialogo.setOption(QFileDialog::DontConfirmOverwrite,
                       (peticion.flags & DlgPreguntarSobrescribir) == 0);
     const QStringList filtros = FiltrosQt(Q(peticion.filtro));
+    // A name typed without extension gets the chosen filter's, before the dialog asks about
+    // overwriting, so that it asks about the file that will be written.
+    const auto sufijo = [&](const QString& filtro) {
+        const std::string extension =
+            ExtensionDelFiltro(peticion.filtro, static_cast<int>(filtros.indexOf(filtro)) + 1);
+        dialogo.setDefaultSuffix(extension.empty() ? QString() : Q(extension.substr(1)));
+    };
     if (!filtros.isEmpty()) {
         dialogo.setNameFilters(filtros);
         dialogo.selectNameFilter(
             filtros.value(std::max(0, peticion.indiceFiltro - 1), filtros.front()));
+        if (guardar) {
+            sufijo(dialogo.selectedNameFilter());
+            Conectar(&dialogo, &QFileDialog::filterSelected, &dialogo, sufijo);
+        }
     }
     if (!peticion.nombreArchivo.empty()) {
         dialogo.selectFile(Q(peticion.nombreArchivo));
@@ -112,7 +124,8 @@ std::optional<std::string> MostrarDialogoQt(const PeticionDialogo& peticion) {
     if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
-    return ACadena(dialogo.selectedFiles().front());
+    return RespuestaDialogo(ACadena(dialogo.selectedFiles().front()),
+                            static_cast<int>(filtros.indexOf(dialogo.selectedNameFilter())) + 1);
 }
 
 } // namespace

@@ -1,16 +1,14 @@
 #include "windows/shell/frmPrincipal.h"
 
-#include "core/core/dialogos.h"
 #include "core/core/limite_fallos.h"
 #include "core/core/sesion.h"
-#include "core/files/modelo_archivo.h"
 #include "core/shell/comandos_modelo.h"
 #include "core/shell/flujo_trabajo.h"
+#include "core/shell/plantillas_menu.h"
 #include "windows/compilation/frmCompilacion.h"
 #include "windows/core/ajustar_fuente.h"
 #include "windows/core/conectar.h"
 #include "windows/core/frmAcercaDe.h"
-#include "windows/core/frmInicio.h"
 #include "windows/core/frmPreferencias.h"
 #include "windows/core/modal.h"
 #include "windows/core/texto.h"
@@ -18,7 +16,6 @@
 #include "windows/reports/frmResumen.h"
 #include "windows/shell/etiqueta_paso.h"
 #include "windows/shell/frmEjes.h"
-#include "windows/shell/frmPropiedades.h"
 #include "windows/trees/frmComponentes.h"
 #include "windows/trees/frmEtapas.h"
 #include "windows/trees/frmRequerimientos.h"
@@ -47,8 +44,6 @@
 namespace vadro {
 
 namespace {
-
-constexpr const char* kTitulo = "VADRO PROGRAMADOR";
 
 constexpr int kAnchoPanel = 230;
 
@@ -109,7 +104,7 @@ QMenu* MenuEmergente(QMenuBar* barra, const char* nombre, const char* texto) {
 
 frmPrincipal::frmPrincipal(QWidget* padre) : QMainWindow(padre) {
     setObjectName(Q("frmPrincipal"));
-    setWindowTitle(Q(kTitulo));
+    setWindowTitle(Q(kTituloPrincipal));
 
     auto* cliente = new QWidget(this);
     cliente->setObjectName(Q("cliente"));
@@ -353,18 +348,18 @@ void frmPrincipal::ConectarMenus() {
         MostrarModal(preferencias);
     });
     Conectar(mnuSalir, &QAction::triggered, this, [this] { close(); });
-    // The permission of subcriteria follows the model until its command asks about it.
-    Conectar(mnuPermitirSubcriterios, &QAction::triggered, this, [this] {
-        mnuPermitirSubcriterios->setChecked(SesionActual().modelo.ConSubcriterios);
-    });
+    Conectar(mnuPermitirSubcriterios, &QAction::triggered, this,
+             [this] { mnuPermitirSubcriterios_Click(); });
+    for (const EntradaPlantilla& entrada : EntradasPlantilla()) {
+        Conectar(findChild<QAction*>(Q(entrada.nombre)), &QAction::triggered, this,
+                 [this, entrada] { Plantilla(entrada); });
+    }
+    Conectar(mnuConfiguracionEjes, &QAction::triggered, this, [this] { ConfigurarEjes(); });
     orden(mnuRequerimientos, Comando::Requerimientos);
     orden(mnuComponentes, Comando::Componentes);
     orden(mnuEtapas, Comando::Etapas);
     orden(mnuCompilar, Comando::Compilar);
-    Conectar(mnuPropiedades, &QAction::triggered, this, [this] {
-        frmPropiedades propiedades(this);
-        MostrarModal(propiedades);
-    });
+    Conectar(mnuPropiedades, &QAction::triggered, this, [this] { Propiedades(); });
     Conectar(mnuOrganizar, &QAction::triggered, this, [this] { Organizar(); });
     Conectar(mnuAcercaDe, &QAction::triggered, this, [this] {
         frmAcercaDe acercaDe(this);
@@ -380,87 +375,6 @@ void frmPrincipal::AjustarControles() {
                         pctPrincipal->layout()->spacing() + margenes.left() + margenes.right() +
                         2 * pctPrincipal->frameWidth();
     pctPrincipal->setFixedWidth(std::max(kAnchoPanel, botones));
-}
-
-// ---- Model commands
-
-void frmPrincipal::Nuevo() {
-    Modelo& modelo = SesionActual().modelo;
-    if (!GuardarAntesDeNuevo(modelo)) {
-        return;
-    }
-    InicializarModelo(modelo);
-    for (int i : {EtqRequerimientos, EtqComponentes, EtqCicloVida}) {
-        MarcarPaso(i, false);
-    }
-    setWindowTitle(Q(kTitulo) + Q(" - [...]"));
-    DescargarTodas();
-    pctPrincipal->show();
-    {
-        frmPropiedades propiedades(this);
-        MostrarModal(propiedades);
-    }
-    Transicion abrir;
-    abrir.ajuste.menuModelo = true;
-    abrir.ajuste.botonRetroceder = false;
-    abrir.ajuste.botonContinuar = true;
-    abrir.ajuste.grupoDiseno = true;
-    abrir.cargar = {Hija::Ejes};
-    abrir.destino = vadro::Posicion::Ejes;
-    Aplicar(abrir);
-}
-
-void frmPrincipal::Abrir() {
-    if (frmInicio* inicio = frmInicio::Abierto()) {
-        inicio->close();
-    }
-    // Reading a model file into the session comes with the file commands.
-}
-
-void frmPrincipal::Guardar() {
-    Sesion& sesion = SesionActual();
-    Modelo& modelo = sesion.modelo;
-    if (NecesitaNombre(modelo.Archivo) &&
-        !ElegirArchivoModelo(modelo, sesion.DirectorioPrograma, false)) {
-        return;
-    }
-    // A save takes what stands in the open design windows, without accepting them.
-    if (frmRequerimientos* requerimientos = Abierta<frmRequerimientos>()) {
-        requerimientos->LlamaLlenarRequerimientos();
-    }
-    if (frmComponentes* componentes = Abierta<frmComponentes>()) {
-        componentes->LlamaLlenarComponentes();
-    }
-    if (frmEtapas* etapas = Abierta<frmEtapas>()) {
-        etapas->LlamaLlenarEtapas();
-    }
-    GuardarModelo(modelo, modelo.Archivo, false);
-    TituloConArchivo(modelo.Archivo);
-}
-
-void frmPrincipal::GuardarComo() {
-    Sesion& sesion = SesionActual();
-    if (vadro::GuardarComo(sesion.modelo, sesion.DirectorioPrograma)) {
-        TituloConArchivo(sesion.modelo.Archivo);
-    }
-}
-
-void frmPrincipal::Compilar() {
-    if (!ModeloCompilable(SesionActual().modelo)) {
-        return;
-    }
-    PintarEtiqueta(EtqCompilacion, QColor(0, 0, 0), false);
-    Descargar(Hija::Compilacion);
-    Cargar(Hija::Compilacion);
-}
-
-void frmPrincipal::Imprimir() {
-    // The report goes to the printer with the printing routines; until they stand, nothing
-    // is printed.
-}
-
-void frmPrincipal::TituloConArchivo(const std::string& archivo) {
-    setWindowTitle(Q(kTitulo) + Q(" - [") + Q(archivo) + Q("]"));
 }
 
 // ---- The line of positions

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/shell/flujo_trabajo.h"
+#include "core/shell/plantillas_menu.h"
 #include "windows/core/ventana.h"
 #include "windows/shell/ventana_hija.h"
 
@@ -25,6 +26,8 @@ namespace vadro {
 
 class EtiquetaPaso;
 
+inline constexpr const char* kTituloPrincipal = "VADRO PROGRAMADOR";
+
 // The one multiple-document window of the program. It owns the position of the workflow,
 // the step panel, the menus, the toolbar and the status bar; every other window is its child
 // or a modal dialog.
@@ -41,6 +44,11 @@ public:
     void GuardarComo();
     void Compilar();
     void Imprimir();
+    // The model menu: the subcriteria permission, a template entry, the axes, the properties.
+    void mnuPermitirSubcriterios_Click();
+    void Plantilla(const EntradaPlantilla& entrada);
+    void ConfigurarEjes();
+    void Propiedades();
 
     // The walk along the line of positions.
     void Continuar();
@@ -157,6 +165,8 @@ private:
     void PintarEtiqueta(int indice, const QColor& color, bool negrita);
     void EtiquetaNegrita(int indice, bool negrita);
     void TituloConArchivo(const std::string& archivo);
+    void MostrarModeloAbierto();
+    void AvisarResumen(ParteModelo parte);
     bool CerrarHijas();
     std::vector<Hija> HijasAbiertas() const;
 

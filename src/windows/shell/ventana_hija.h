@@ -29,6 +29,15 @@ public:
     // Unloads the window, as the window itself or the main window asks.
     void Descargar();
 
+    // A part of the model was replaced from outside the window (an opening, an import, the
+    // subcriteria removed): a window that shows that part fills it again from the model (the
+    // summary its pane, a design window its tree and selectors).
+    virtual void ModeloCambiado(ParteModelo /*parte*/) {}
+    // The subcriteria permission changed: the requirements window shows or hides its frame of
+    // subcriteria and adjusts its controls; when they are no longer allowed it also removes
+    // them from its working tree, from its first node down.
+    virtual void PermisoSubcriterios(bool /*permitidos*/) {}
+
 signals:
     // The window has unloaded.
     void Descargada(vadro::Hija hija);

@@ -89,20 +89,6 @@ TEST_F(Comandos, TheStartScreenLeadsToANewModelAndClosesItself) {
     EXPECT_EQ(Hijas(), Strings{"frmEjes"});
 }
 
-TEST_F(Comandos, AnExistingModelFromTheStartScreenOnlyClosesItForNow) {
-    modales.Esperar(QStringLiteral("frmInicio"), [](QDialog& inicio) {
-        Hijo<QPushButton>(inicio, "cmdExistente")->click();
-        EXPECT_FALSE(inicio.isVisible());
-    });
-    frmInicio inicio([this] { principal.Nuevo(); }, [this] { principal.Abrir(); }, &principal);
-    MostrarModal(inicio);
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "");
-    EXPECT_TRUE(Hijas().empty());
-    PulsarBoton("Abrir");
-    PulsarBoton("Imprimir");
-    EXPECT_TRUE(Hijas().empty());
-}
-
 TEST_F(Comandos, SavingANewModelAsksForANameAndShowsItInTheCaption) {
     NuevoModelo();
     const std::string ruta = Ruta("nuevo.vdm");

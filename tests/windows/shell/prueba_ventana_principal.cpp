@@ -111,13 +111,6 @@ TEST_F(VentanaPrincipal_, TheAutosaveTimerStandsIdle) {
     EXPECT_FALSE(principal.tmrAutoguardado->isActive());
 }
 
-TEST_F(VentanaPrincipal_, ASubcriteriaClickDoesNotChangeTheEntryByItself) {
-    NuevoModelo();
-    principal.mnuPermitirSubcriterios->trigger();
-    EXPECT_FALSE(principal.mnuPermitirSubcriterios->isChecked());
-    EXPECT_FALSE(sesion().modelo.ConSubcriterios);
-}
-
 TEST_F(VentanaPrincipal_, ANewFontSizeKeepsTheLookOfTheStepLabels) {
     NuevoModelo();
     modales.Esperar(QStringLiteral("frmPreferencias"), [](QDialog& preferencias) {

@@ -1,0 +1,224 @@
+#include "core/core/archivos.h"
+#include "core/core/configuracion.h"
+#include "core/core/ini.h"
+#include "core/files/proteccion.h"
+#include "core/shell/plantillas_menu.h"
+#include "soporte/componentes_etapas.h"
+#include "soporte/guion_dialogos.h"
+#include "soporte/modelo_sano.h"
+#include "soporte/prueba_sesion.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace vadro {
+namespace {
+
+struct Tipo {
+    ParteModelo parte;
+    const char* importar;
+    const char* exportar;
+    const char* titulo; // of the import dialog; the export's says "Exportar"
+    const char* filtro;
+    const char* clave;
+    const char* extension;
+    Hija hija;
+    int etiqueta;
+};
+
+const Tipo kTipos[] = {
+    {ParteModelo::Requerimientos, "mnuImportarR", "mnuExportarR", "requerimientos",
+     "Plantillas de requerimientos (*.req)|*.req", "REQUERIMIENTOS", ".req", Hija::Requerimientos,
+     1},
+    {ParteModelo::Componentes, "mnuImportarComp", "mnuExportarComp", "componentes",
+     "Plantillas de componentes (*.cmp)|*.cmp", "COMPONENTES", ".cmp", Hija::Componentes, 2},
+    {ParteModelo::Etapas, "mnuImportarEtapas", "mnuExportarEtapas", "etapas",
+     "Plantillas de etapa (*.tpa)|*.tpa", "ETAPAS", ".tpa", Hija::Etapas, 3},
+};
+
+const EntradaPlantilla& Entrada(const char* nombre) {
+    for (const EntradaPlantilla& entrada : EntradasPlantilla()) {
+        if (std::string(entrada.nombre) == nombre) {
+            return entrada;
+        }
+    }
+    throw std::runtime_error(nombre);
+}
+
+class PlantillasMenu : public pruebas::PruebaSesion {
+protected:
+    Modelo& modelo() { return sesion().modelo; }
+    std::string Clave(const char* clave) {
+        return LeerIni(kSeccionDirectorios, clave, RutaConfiguracion(sesion())).Texto();
+    }
+};
+
+TEST_F(PlantillasMenu, TheSixEntriesByKind) {
+    ASSERT_EQ(EntradasPlantilla().size(), 6u);
+    for (const Tipo& t : kTipos) {
+        EXPECT_EQ(Entrada(t.importar).parte, t.parte);
+        EXPECT_TRUE(Entrada(t.importar).importar);
+        EXPECT_EQ(Entrada(t.exportar).parte, t.parte);
+        EXPECT_FALSE(Entrada(t.exportar).importar);
+        EXPECT_EQ(TipoDeParte(t.parte).filtro, t.filtro);
+        EXPECT_EQ(TipoDeParte(t.parte).tituloImportar, std::string("Importar ") + t.titulo);
+        EXPECT_EQ(TipoDeParte(t.parte).tituloExportar, std::string("Exportar ") + t.titulo);
+        EXPECT_EQ(TipoDeParte(t.parte).claveDirectorio, t.clave);
+        EXPECT_EQ(HijaDeParte(t.parte), t.hija);
+        EXPECT_EQ(EtiquetaDeParte(t.parte), t.etiqueta);
+    }
+}
+
+TEST_F(PlantillasMenu, EachTemplateGoesOutAndComesBackWithItsFolderRemembered) {
+    const Modelo original = pruebas::ModeloCorrecto();
+    const std::string carpeta = UnirRuta(Directorio(), "plantillas");
+    std::filesystem::create_directories(carpeta);
+    for (const Tipo& t : kTipos) {
+        modelo() = original;
+        pruebas::GuionDialogos dialogos;
+        // A name typed without extension gets the kind's.
+        dialogos.Elegir(std::string("Exportar ") + t.titulo, UnirRuta(carpeta, "p"));
+        ASSERT_TRUE(EjecutarPlantilla(sesion(), Entrada(t.exportar)));
+        const std::string archivo = UnirRuta(carpeta, std::string("p") + t.extension);
+        ASSERT_TRUE(ExisteArchivo(archivo)) << archivo;
+        EXPECT_EQ(dialogos.Peticiones()[0].directorioInicial,
+                  UnirRuta(Directorio(), "Archivos de modelo"));
+        EXPECT_TRUE(std::filesystem::is_directory(UnirRuta(Directorio(), "Archivos de modelo")));
+        EXPECT_EQ(Clave(t.clave), carpeta);
+
+        Modelo vacio;
+        vacio.Requerimientos.Redimensionar(1);
+        vacio.Componentes.Redimensionar(1);
+        vacio.Etapas.Redimensionar(1);
+        modelo() = vacio;
+        dialogos.Elegir(std::string("Importar ") + t.titulo, archivo);
+        ASSERT_TRUE(EjecutarPlantilla(sesion(), Entrada(t.importar)));
+        EXPECT_EQ(dialogos.Peticiones()[1].directorioInicial, carpeta) << "the last folder";
+        // What came back goes out again as the same text.
+        dialogos.Elegir(std::string("Exportar ") + t.titulo, UnirRuta(carpeta, "q"));
+        ASSERT_TRUE(EjecutarPlantilla(sesion(), Entrada(t.exportar)));
+        const std::string otra = UnirRuta(carpeta, std::string("q") + t.extension);
+        EXPECT_EQ(TextoPlano(Contenido(otra)), TextoPlano(Contenido(archivo)));
+        const char* muestra = t.parte == ParteModelo::Requerimientos ? "Social"
+                              : t.parte == ParteModelo::Componentes  ? "Estructura"
+                                                                     : "Construcci";
+        EXPECT_NE(TextoPlano(Contenido(archivo)).find(muestra), std::string::npos);
+        // The other parts stay as they were.
+        EXPECT_EQ(modelo().NumRequerimientos.EsVacio(), t.parte != ParteModelo::Requerimientos);
+        EXPECT_EQ(modelo().NumComponentes.EsVacio(), t.parte != ParteModelo::Componentes);
+        EXPECT_EQ(modelo().NumEtapas.EsVacio(), t.parte != ParteModelo::Etapas);
+    }
+    EXPECT_TRUE(mensajes.Vistos().empty());
+}
+
+TEST_F(PlantillasMenu, ATemplateOfAnotherKindIsRefusedAndTheModelStays) {
+    modelo() = pruebas::ModeloCorrecto();
+    const Modelo antes = modelo();
+    pruebas::GuionDialogos dialogos;
+    dialogos.Elegir("Exportar etapas", Ruta("etapas.tpa"));
+    ASSERT_TRUE(EjecutarPlantilla(sesion(), Entrada("mnuExportarEtapas")));
+    const std::string bytes = Contenido(Ruta("etapas.tpa"));
+    const std::pair<const char*, const char*> casos[] = {
+        {"mnuImportarR", "No se ha podido cargar el árbol de requerimientos."},
+        {"mnuImportarComp", "No se ha podido cargar el árbol de componentes."},
+    };
+    for (const auto& [entrada, queNo] : casos) {
+        dialogos.Elegir(TipoDeParte(Entrada(entrada).parte).tituloImportar, Ruta("etapas.tpa"));
+        mensajes.Esperar("VADRO: Error.",
+                         std::string("Fichero no válido o formato de datos incorrecto.\r\n") +
+                             queNo);
+        EXPECT_FALSE(EjecutarPlantilla(sesion(), Entrada(entrada)));
+        EXPECT_EQ(modelo(), antes);
+    }
+    Escribir(Ruta("vacia.cmp"), "");
+    dialogos.Elegir("Importar componentes", Ruta("vacia.cmp"));
+    mensajes.Esperar("VADRO: Error.", "Fichero no válido o formato de datos incorrecto.\r\n"
+                                      "No se ha podido cargar el árbol de componentes.");
+    EXPECT_FALSE(EjecutarPlantilla(sesion(), Entrada("mnuImportarComp")));
+    EXPECT_EQ(modelo(), antes);
+    EXPECT_EQ(Contenido(Ruta("etapas.tpa")), bytes);
+}
+
+TEST_F(PlantillasMenu, AFailingReadOfRequirementsLeavesTheModelWhole) {
+    modelo() = pruebas::ModeloCorrecto();
+    const Modelo antes = modelo();
+    Escribir(Ruta("rota.req"), "*****REQUERIMIENTOS*****\r\nREQ_NUMR = dos\r\n");
+    pruebas::GuionDialogos dialogos;
+    dialogos.Elegir("Importar requerimientos", Ruta("rota.req"));
+    EXPECT_THROW(EjecutarPlantilla(sesion(), Entrada("mnuImportarR")), ErrorEjecucion)
+        << "the failure boundary tells it";
+    EXPECT_EQ(modelo(), antes);
+    EXPECT_EQ(Clave("REQUERIMIENTOS"), Directorio()) << "the folder is remembered first";
+}
+
+TEST_F(PlantillasMenu, AVanishedTemplateFailsWithoutTouchingTheModel) {
+    modelo() = pruebas::ModeloCorrecto();
+    const Modelo antes = modelo();
+    pruebas::GuionDialogos dialogos;
+    dialogos.Elegir("Importar etapas", Ruta("no_esta.tpa"));
+    EXPECT_THROW(EjecutarPlantilla(sesion(), Entrada("mnuImportarEtapas")), ErrorEjecucion);
+    EXPECT_EQ(modelo(), antes);
+}
+
+TEST_F(PlantillasMenu, ACancelledDialogDoesNothing) {
+    for (const EntradaPlantilla& entrada : EntradasPlantilla()) {
+        pruebas::GuionDialogos dialogos;
+        dialogos.Cancelar(entrada.importar ? TipoDeParte(entrada.parte).tituloImportar
+                                           : TipoDeParte(entrada.parte).tituloExportar);
+        EXPECT_FALSE(EjecutarPlantilla(sesion(), entrada));
+    }
+    for (const Tipo& t : kTipos) {
+        EXPECT_EQ(Clave(t.clave), "-1") << "a cancel remembers no folder";
+    }
+}
+
+TEST_F(PlantillasMenu, WhatReadsAsATemplateOfEachKind) {
+    using Lineas = std::vector<std::string>;
+    struct Caso {
+        Lineas lineas;
+        bool requerimientos, componentes, etapas;
+    };
+    const Caso casos[] = {
+        {{}, false, false, false},
+        {{"*****REQUERIMIENTOS*****"}, true, false, false},
+        {{"REQ_NUM = 0"}, true, false, false},
+        {{"*****COMPONENTES*****"}, false, true, false},
+        {{"x", "CMP_C1_NOM = a"}, false, true, false},
+        {{"*****ETAPAS*****", "ETA_NUM = 0"}, false, false, true},
+        // A whole model holds the three.
+        {{"*****MODELO*****", "REQ_NUM = 0", "CMP_NUM = 0", "ETA_NUM = 0"}, true, true, true},
+        {{" REQ_NUM = 0", "texto CMP_NUM", "*****ETAPAS"}, false, false, false},
+    };
+    for (const Caso& c : casos) {
+        EXPECT_EQ(EsPlantillaDe(c.lineas, ParteModelo::Requerimientos), c.requerimientos);
+        EXPECT_EQ(EsPlantillaDe(c.lineas, ParteModelo::Componentes), c.componentes);
+        EXPECT_EQ(EsPlantillaDe(c.lineas, ParteModelo::Etapas), c.etapas);
+    }
+}
+
+TEST_F(PlantillasMenu, WhatFollowsAnImport) {
+    struct Caso {
+        bool resumen, diseno;
+        bool rellenarResumen, rellenarDiseno, cargarDiseno;
+    };
+    const Caso casos[] = {
+        {true, false, true, false, false},
+        {true, true, true, false, false},
+        {false, true, false, true, false},
+        {false, false, false, false, true},
+    };
+    for (const Tipo& t : kTipos) {
+        for (const Caso& c : casos) {
+            const EfectoImportacion e = EfectoTrasImportar(t.parte, c.resumen, c.diseno);
+            EXPECT_EQ(e.etiqueta, t.etiqueta);
+            EXPECT_EQ(e.seguirPermiso, t.parte == ParteModelo::Requerimientos);
+            EXPECT_EQ(e.rellenarResumen, c.rellenarResumen);
+            EXPECT_EQ(e.rellenarDiseno, c.rellenarDiseno);
+            EXPECT_EQ(e.cargarDiseno, c.cargarDiseno);
+        }
+    }
+}
+
+} // namespace
+} // namespace vadro

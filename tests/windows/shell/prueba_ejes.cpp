@@ -1,0 +1,225 @@
+#include "ventana_principal.h"
+
+#include "core/core/configuracion.h"
+#include "soporte/volcado_ventana.h"
+#include "windows/shell/frmConfigEjes.h"
+#include "windows/shell/frmEjes.h"
+#include "windows/shell/frmPropiedades.h"
+
+#include <QApplication>
+#include <QEnterEvent>
+#include <QFocusEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace vadro {
+namespace {
+
+using pruebas::Hijo;
+using Strings = std::vector<std::string>;
+
+class Ejes : public pruebas::VentanaPrincipal {
+protected:
+    frmEjes& VentanaEjes() { return *dynamic_cast<frmEjes*>(Hija("frmEjes")); }
+
+    static void Entrar(QWidget* control) {
+        QEnterEvent entrada(QPointF(2, 2), QPointF(2, 2), QPointF(2, 2));
+        QApplication::sendEvent(control, &entrada);
+    }
+    static void Mover(QWidget* zona) {
+        QMouseEvent movimiento(QEvent::MouseMove, QPointF(3, 3), QPointF(3, 3), Qt::NoButton,
+                               Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(zona, &movimiento);
+    }
+
+    // Screenshots to look at, when asked for: VADRO_CAPTURAS=1.
+    static void Capturar(QWidget& ventana, const char* nombre) {
+        if (std::getenv("VADRO_CAPTURAS") != nullptr) {
+            ventana.grab().save(QString::fromUtf8("/tmp/") + QString::fromUtf8(nombre) +
+                                QStringLiteral(".png"));
+        }
+    }
+};
+
+TEST_F(Ejes, TheButtonsShowTheAxesOfTheModel) {
+    sesion().modelo.EjeX = "Años";
+    NuevoModelo(); // blanks the model: the default titles
+    frmEjes& ejes = VentanaEjes();
+    pruebas::CompararVolcado(ejes, "frmEjes");
+    EXPECT_EQ(ejes.windowTitle(), QStringLiteral("Límites del sistema"));
+    sesion().modelo.EjeX = "Años";
+    sesion().modelo.EjeZ = "";
+    ejes.MostrarEjes();
+    EXPECT_EQ(ejes.cmdTiempo->text(), QStringLiteral("Años"));
+    EXPECT_EQ(ejes.cmdRequerimientos->text(), QStringLiteral("Requerimientos"));
+    EXPECT_EQ(ejes.cmdComponentes->text(), QString());
+}
+
+TEST_F(Ejes, EachAxisOpensItsDesignWindowOnlyOnce) {
+    NuevoModelo();
+    frmEjes& ejes = VentanaEjes();
+    QTest::mouseClick(ejes.cmdRequerimientos, Qt::LeftButton);
+    QTest::mouseClick(ejes.cmdComponentes, Qt::LeftButton);
+    QTest::mouseClick(ejes.cmdTiempo, Qt::LeftButton);
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmRequerimientos", "frmComponentes", "frmEtapas"}));
+    QTest::mouseClick(ejes.cmdRequerimientos, Qt::LeftButton);
+    EXPECT_EQ(Hijas().size(), 4u) << "a second click loads nothing new";
+    EXPECT_EQ(principal.mdiCliente->activeSubWindow()->widget()->objectName(),
+              QStringLiteral("frmRequerimientos"))
+        << "the open window comes to the front";
+}
+
+TEST_F(Ejes, HintsStayUntilThePointerMovesOnTheBackground) {
+    NuevoModelo();
+    frmEjes& ejes = VentanaEjes();
+    const std::pair<QPushButton*, const char*> casos[] = {
+        {ejes.cmdRequerimientos, "Definición de objetivos o condiciones a cumplir"},
+        {ejes.cmdComponentes, "Definición de componentes o elementos que describen la decisión"},
+        {ejes.cmdTiempo, "Definición de etapas del ciclo de vida afectadas por la decisión"},
+    };
+    for (const auto& [boton, ayuda] : casos) {
+        Entrar(boton);
+        EXPECT_EQ(Estado(), ayuda);
+        Mover(boton);
+        EXPECT_EQ(Estado(), ayuda) << "the hint stays over its button";
+    }
+    for (QWidget* zona : {static_cast<QWidget*>(&ejes), ejes.pctFondo, ejes.imgEjes}) {
+        Entrar(ejes.cmdTiempo);
+        Mover(zona);
+        EXPECT_EQ(Estado(), "Posición: ejes") << zona->objectName().toStdString();
+    }
+}
+
+TEST_F(Ejes, ResizingKeepsPictureAndButtonsInProportion) {
+    NuevoModelo();
+    frmEjes& ejes = VentanaEjes();
+    auto* marco = qobject_cast<QMdiSubWindow*>(ejes.parentWidget());
+    marco->resize(500, 400);
+    const QSize chico = ejes.size();
+    const QRect antes = ejes.cmdTiempo->geometry();
+    Capturar(*marco, "frmEjes_chico");
+    marco->resize(1000, 760);
+    const QSize grande = ejes.size();
+    const QRect despues = ejes.cmdTiempo->geometry();
+    Capturar(*marco, "frmEjes_grande");
+    EXPECT_EQ(ejes.imgEjes->size(), grande);
+    const double fx = static_cast<double>(grande.width()) / chico.width();
+    const double fy = static_cast<double>(grande.height()) / chico.height();
+    EXPECT_NEAR(despues.x(), antes.x() * fx, 1.5);
+    EXPECT_NEAR(despues.y(), antes.y() * fy, 1.5);
+    EXPECT_NEAR(despues.width(), antes.width() * fx, 2.5);
+    for (QPushButton* boton :
+         {ejes.cmdTiempo, ejes.cmdRequerimientos, ejes.cmdComponentes, ejes.cmdEjes}) {
+        EXPECT_TRUE(ejes.rect().contains(boton->geometry()));
+    }
+}
+
+TEST_F(Ejes, TheAxesDialogFromTheWindowAndFromTheMenu) {
+    NuevoModelo();
+    sesion().modelo.Modificado = false;
+    sesion().modelo.EjeY = "";
+    frmEjes& ejes = VentanaEjes();
+    modales.Esperar(QStringLiteral("frmConfigEjes"), [](QDialog& d) {
+        pruebas::CompararVolcado(d, "frmConfigEjes");
+        Capturar(d, "frmConfigEjes");
+        auto* x = Hijo<QLineEdit>(d, "txtEjeX");
+        auto* y = Hijo<QLineEdit>(d, "txtEjeY");
+        EXPECT_EQ(y->text(), QStringLiteral("Requerimientos")) << "the default of a missing title";
+        QFocusEvent foco(QEvent::FocusIn, Qt::MouseFocusReason);
+        QApplication::sendEvent(x, &foco);
+        QApplication::processEvents();
+        EXPECT_EQ(x->selectedText(), QStringLiteral("Tiempo")) << "the text selected on focus";
+        QTest::keyClicks(x, QStringLiteral("Plazo"));
+        Hijo<QLineEdit>(d, "txtEjeZ")->clear();
+        QTest::keyClick(x, Qt::Key_Return);
+    });
+    QTest::mouseClick(ejes.cmdEjes, Qt::LeftButton);
+    EXPECT_EQ(sesion().modelo.EjeX, "Plazo") << "the typing replaced the selected text";
+    EXPECT_EQ(sesion().modelo.EjeY, "Requerimientos");
+    EXPECT_EQ(sesion().modelo.EjeZ, "");
+    EXPECT_TRUE(sesion().modelo.Modificado);
+    EXPECT_EQ(ejes.cmdTiempo->text(), QStringLiteral("Plazo"));
+    EXPECT_EQ(ejes.cmdComponentes->text(), QString());
+
+    sesion().modelo.Modificado = false;
+    modales.Esperar(QStringLiteral("frmConfigEjes"), [](QDialog& d) {
+        Hijo<QLineEdit>(d, "txtEjeZ")->setText(QStringLiteral("Partes"));
+        Hijo<QPushButton>(d, "cmdCancelar")->click();
+    });
+    principal.mnuConfiguracionEjes->trigger();
+    EXPECT_EQ(sesion().modelo.EjeZ, "");
+    EXPECT_FALSE(sesion().modelo.Modificado) << "cancel changes nothing";
+
+    modales.Esperar(QStringLiteral("frmConfigEjes"), [](QDialog& d) {
+        Hijo<QLineEdit>(d, "txtEjeZ")->setText(QStringLiteral("Partes"));
+        Hijo<QPushButton>(d, "cmdAceptar")->click();
+    });
+    principal.mnuConfiguracionEjes->trigger();
+    EXPECT_EQ(ejes.cmdComponentes->text(), QStringLiteral("Partes"));
+}
+
+TEST_F(Ejes, ThePropertiesDialogLoadsAcceptsAndCancels) {
+    NuevoModelo();
+    Modelo& m = sesion().modelo;
+    m.Nombre = "Depuradora";
+    m.Version = "3";
+    modales.Esperar(QStringLiteral("frmPropiedades"), [](QDialog& d) {
+        pruebas::CompararVolcado(d, "frmPropiedades");
+        Capturar(d, "frmPropiedades");
+        auto* dialogo = dynamic_cast<frmPropiedades*>(&d);
+        ASSERT_NE(dialogo, nullptr);
+        for (int i = 0; i < 7; ++i) {
+            dialogo->txtInfo[static_cast<std::size_t>(i)]->clear();
+            QTest::keyClicks(dialogo->txtInfo[static_cast<std::size_t>(i)],
+                             QStringLiteral("campo ") + QString::number(i));
+        }
+        QTest::mouseClick(dialogo->cmdAceptar, Qt::LeftButton);
+    });
+    principal.mnuPropiedades->trigger();
+    EXPECT_EQ(m.Nombre, "campo 0");
+    EXPECT_EQ(m.Fecha, "campo 1");
+    EXPECT_EQ(m.Localizacion, "campo 2");
+    EXPECT_EQ(m.Autor, "campo 3");
+    EXPECT_EQ(m.Referencia, "campo 4");
+    EXPECT_EQ(m.Version, "campo 5");
+    EXPECT_EQ(m.Descripcion, "campo 6");
+
+    modales.Esperar(QStringLiteral("frmPropiedades"), [](QDialog& d) {
+        Hijo<QLineEdit>(d, "txtInfo(0)")->setText(QStringLiteral("otro"));
+        Hijo<QPushButton>(d, "cmdCancelar")->click();
+    });
+    principal.mnuPropiedades->trigger();
+    EXPECT_EQ(m.Nombre, "campo 0");
+}
+
+TEST_F(Ejes, TheLargeFontLeavesTheDialogsReadable) {
+    sesion().configuracion.TamanoFuente = 2;
+    NuevoModelo();
+    frmEjes& ejes = VentanaEjes();
+    ejes.AjustarControles();
+    Capturar(*ejes.parentWidget(), "frmEjes_grande_letra");
+    for (QPushButton* boton : {ejes.cmdTiempo, ejes.cmdRequerimientos, ejes.cmdComponentes}) {
+        EXPECT_GE(boton->width(), boton->fontMetrics().horizontalAdvance(boton->text()))
+            << boton->objectName().toStdString();
+    }
+    modales.Esperar(QStringLiteral("frmPropiedades"), [](QDialog& d) {
+        Capturar(d, "frmPropiedades_grande");
+        for (QLabel* etiqueta : d.findChildren<QLabel*>()) {
+            EXPECT_GE(etiqueta->width(), etiqueta->minimumSizeHint().width())
+                << etiqueta->objectName().toStdString();
+        }
+        d.reject();
+    });
+    principal.mnuPropiedades->trigger();
+}
+
+} // namespace
+} // namespace vadro
