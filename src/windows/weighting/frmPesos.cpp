@@ -170,6 +170,7 @@ void frmPesos::MostrarMetodo(MetodoCalculo metodo) {
     }
     txtValor->hide();
     txtValor->setParent(Visible().viewport());
+    FormatearRejilla(Visible());
 }
 
 MetodoCalculo frmPesos::Metodo() const {

@@ -93,6 +93,10 @@ frmSaaty::frmSaaty(Celda celda, RejillaPonderacion& rejilla, std::function<void(
 
 void frmSaaty::AjustarControles() {
     AjustarFuente(*this);
+    // An option's figure reads at the size of its words.
+    for (std::size_t k = 0; k < optPeso.size(); ++k) {
+        optPeso.at(k)->setFont(lblPeso.at(k)->font());
+    }
 }
 
 void frmSaaty::cmdAceptar_Click() {
