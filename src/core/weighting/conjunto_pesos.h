@@ -29,6 +29,9 @@ struct EdicionPesos {
     ValorLibre Consistencia; // the ratio of `MatrizSaaty`, or "" for an incomplete matrix
     Arreglo<ValorLibre> PuntuacionesDirecto;
     Arreglo<ValorLibre> PorcentajesDirecto;
+    // Set by typed edits in each grid; acceptance does not clear them.
+    bool ModificadoAHP = false;
+    bool ModificadoDirecto = false;
 };
 
 // Heads of the two grids.

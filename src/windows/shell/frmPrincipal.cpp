@@ -426,7 +426,44 @@ void frmPrincipal::Ejecutar(Comando comando) {
     }
 }
 
+namespace {
+
+// Counts the steps in hand while it lives.
+class PasoEnCurso {
+public:
+    explicit PasoEnCurso(int& pasos) : pasos_(pasos) { ++pasos_; }
+    ~PasoEnCurso() { --pasos_; }
+    PasoEnCurso(const PasoEnCurso&) = delete;
+    PasoEnCurso& operator=(const PasoEnCurso&) = delete;
+
+private:
+    int& pasos_;
+};
+
+} // namespace
+
+void frmPrincipal::PedirTransicion(const Transicion& transicion) {
+    pendiente_ = transicion;
+    AplicarPendiente();
+}
+
+void frmPrincipal::AplicarPendiente() {
+    if (pasosEnCurso_ == 0 && pendiente_) {
+        const Transicion transicion = *pendiente_;
+        pendiente_.reset();
+        Aplicar(transicion);
+    }
+}
+
 void frmPrincipal::Aplicar(const Transicion& transicion) {
+    {
+        const PasoEnCurso paso(pasosEnCurso_);
+        AplicarPaso(transicion);
+    }
+    AplicarPendiente();
+}
+
+void frmPrincipal::AplicarPaso(const Transicion& transicion) {
     AplicarAjuste(transicion.ajuste);
     for (Hija hija : transicion.aceptar) {
         AceptarDiseno(hija);
@@ -622,8 +659,13 @@ VentanaHija& frmPrincipal::Cargar(Hija hija) {
         mdiCliente->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(abierta->parentWidget()));
         return *abierta;
     }
-    VentanaHija* ventana = CrearHija(hija);
-    Alojar(*ventana);
+    VentanaHija* ventana = nullptr;
+    {
+        const PasoEnCurso paso(pasosEnCurso_);
+        ventana = CrearHija(hija);
+        Alojar(*ventana);
+    }
+    AplicarPendiente();
     return *ventana;
 }
 
@@ -639,6 +681,8 @@ void frmPrincipal::Alojar(VentanaHija& ventana) {
     Conectar(&ventana, &VentanaHija::PideVentana, this, [this](Hija hija) { Cargar(hija); });
     Conectar(&ventana, &VentanaHija::MarcaPaso, this,
              [this](int etiqueta, bool satisfecho) { MarcarPaso(etiqueta, satisfecho); });
+    Conectar(&ventana, &VentanaHija::PideTransicion, this,
+             [this](const Transicion& transicion) { PedirTransicion(transicion); });
     Conectar(&ventana, &VentanaHija::Estado, this, [this](const QString& texto) {
         if (texto.isEmpty()) {
             EscribirPosicion();

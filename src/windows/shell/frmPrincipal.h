@@ -10,6 +10,7 @@
 #include <QMdiSubWindow>
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -155,6 +156,7 @@ private:
 
     // Applies one step of the workflow, in the order the step gives.
     void Aplicar(const Transicion& transicion);
+    void AplicarPaso(const Transicion& transicion);
     void AplicarAjuste(const Ajuste& ajuste);
     void AplicarEfecto(const EfectoHija& efecto, bool alCargar);
     void PreguntarPermisos();
@@ -169,10 +171,16 @@ private:
     void AvisarResumen(ParteModelo parte);
     bool CerrarHijas();
     std::vector<Hija> HijasAbiertas() const;
+    // A step that a child window asks for while the main window is loading it waits for the
+    // step in hand to finish.
+    void PedirTransicion(const Transicion& transicion);
+    void AplicarPendiente();
 
     vadro::Posicion posicion_ = vadro::Posicion::Ninguna;
     QLabel* panelEstado_;
     std::vector<QAction*> botones_;
+    int pasosEnCurso_ = 0;
+    std::optional<Transicion> pendiente_;
 };
 
 } // namespace vadro

@@ -47,6 +47,8 @@ signals:
     void MarcaPaso(int etiqueta, bool satisfecho);
     // A hint for panel 1 of the status bar; the empty text puts the position back.
     void Estado(const QString& texto);
+    // The main window should take a step of the workflow, once the step in hand is done.
+    void PideTransicion(const vadro::Transicion& transicion);
 
 protected:
     // What the window does when it unloads, after `Cargado` has gone false. It may refuse,

@@ -61,6 +61,7 @@ TEST_F(Cierre, CancelReloadsTheWindowOfEachPosition) {
     EXPECT_EQ(Hijas(), Strings{"frmResumen"});
     EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
 
+    UnRequerimiento();
     ContinuarAceptandoPermisos();
     EsperarPregunta(Respuesta::Cancelar);
     EXPECT_FALSE(principal.close());

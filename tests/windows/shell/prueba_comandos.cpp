@@ -40,6 +40,7 @@ TEST_F(Comandos, NuevoUnloadsEveryOtherWindowBeforeTheProperties) {
     NuevoModelo();
     principal.cmdContinuar->click();
     PulsarEtiqueta(1);
+    UnRequerimiento();
     PulsarEtiqueta(6);
     ASSERT_EQ(Hijas(), (Strings{"frmRequerimientos", "frmPonderacion"}));
     modales.Esperar(QStringLiteral("frmPropiedades"), [this](QDialog& propiedades) {

@@ -27,6 +27,7 @@ protected:
     void HastaInforme() {
         NuevoModelo();
         principal.cmdContinuar->click();
+        UnRequerimiento();
         ContinuarAceptandoPermisos();
         principal.cmdContinuar->click();
         ASSERT_EQ(NombrePosicion(principal.Posicion()), "Informe");
@@ -77,6 +78,7 @@ TEST_F(LineaPosiciones, AWalkFromANewModelToTheEndOfTheLineAndBack) {
     EsperarAjusteB();
     EXPECT_TRUE(principal.mnuImportar->menuAction()->isEnabled());
 
+    UnRequerimiento();
     modales.Esperar(QStringLiteral("frmPreguntarPonderacion"), [this](QDialog& permisos) {
         EXPECT_FALSE(principal.mnuImportar->menuAction()->isEnabled());
         EsperarAjusteB();
@@ -96,6 +98,7 @@ TEST_F(LineaPosiciones, AWalkFromANewModelToTheEndOfTheLineAndBack) {
     EXPECT_EQ(Estado(), "Posición: informe");
     EXPECT_EQ(Hijas(), Strings{"frmInforme"});
     EsperarAjusteB();
+    SinRequerimientos();
 
     // The end of the line, answered each way.
     mensajes.Esperar(tituloFinal, completado + pregunta, Respuesta::No);

@@ -82,6 +82,7 @@ TEST_F(SaltosPanel, ResumenFromEjesAcceptsTheDesignWindows) {
 TEST_F(SaltosPanel, ResumenUnloadsTheWeightsButNotTheReport) {
     NuevoModelo();
     principal.cmdContinuar->click();
+    UnRequerimiento();
     ContinuarAceptandoPermisos();
     PulsarEtiqueta(4);
     EXPECT_EQ(Hijas(), Strings{"frmResumen"});
@@ -94,6 +95,7 @@ TEST_F(SaltosPanel, ResumenUnloadsTheWeightsButNotTheReport) {
 
 TEST_F(SaltosPanel, PesosFromEjesSkipsTheQuestionAndLeavesTheAxes) {
     NuevoModelo();
+    UnRequerimiento();
     PulsarEtiqueta(6); // the script of modal windows would fail on the question
     EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ponderacion");
     EXPECT_EQ(Estado(), "Posición: ponderacion");
@@ -106,6 +108,7 @@ TEST_F(SaltosPanel, PesosFromResumenUnloadsTheSummaryAndItsMark) {
     NuevoModelo();
     principal.cmdContinuar->click();
     EXPECT_TRUE(Negrita(4)) << "the summary marks its label while it is open";
+    UnRequerimiento();
     PulsarEtiqueta(6);
     EXPECT_EQ(Hijas(), Strings{"frmPonderacion"});
     EXPECT_FALSE(Negrita(4));
@@ -137,7 +140,8 @@ TEST_F(SaltosPanel, CompilationPaintsItsLabelBlackAndOpensTheWindowAnew) {
     principal.mnuCompilar->trigger();
     EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmCompilacion"}));
     EXPECT_NE(Hija("frmCompilacion"), primera) << "the open one is unloaded and loaded again";
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes") << "compiling does not move along the line";
+    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes")
+        << "compiling does not move along the line";
 }
 
 } // namespace

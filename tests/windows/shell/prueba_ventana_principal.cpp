@@ -80,6 +80,7 @@ TEST_F(VentanaPrincipal_, TheChildWindowsBearTheirCaptions) {
     EXPECT_EQ(Hija("frmRequerimientos")->windowTitle().toStdString(), "Arbol de requerimientos");
     principal.cmdContinuar->click();
     EXPECT_EQ(Hija("frmResumen")->windowTitle().toStdString(), "Resumen del proyecto");
+    UnRequerimiento();
     ContinuarAceptandoPermisos();
     EXPECT_EQ(Hija("frmPonderacion")->windowTitle().toStdString(),
               "Ponderación de elementos del árbol");

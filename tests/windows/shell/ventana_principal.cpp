@@ -38,6 +38,18 @@ void VentanaPrincipal::ContinuarAceptandoPermisos() {
     principal.cmdContinuar->click();
 }
 
+void VentanaPrincipal::UnRequerimiento() {
+    Modelo& modelo = sesion().modelo;
+    modelo.NumRequerimientos = 1;
+    modelo.Requerimientos.Redimensionar(1);
+    modelo.Requerimientos(1).Nombre = "Coste";
+}
+
+void VentanaPrincipal::SinRequerimientos() {
+    sesion().modelo.NumRequerimientos = 0;
+    sesion().modelo.Requerimientos.Borrar();
+}
+
 std::vector<std::string> VentanaPrincipal::Hijas() const {
     std::vector<std::string> nombres;
     for (QMdiSubWindow* marco : principal.mdiCliente->subWindowList()) {

@@ -27,6 +27,9 @@ protected:
     void NuevoModelo();
     // Continuar at "Resumen", accepting the question of the users' permission.
     void ContinuarAceptandoPermisos();
+    // One requirement in the model, so that the weights have a tree to show; and none again.
+    void UnRequerimiento();
+    void SinRequerimientos();
 
     // The loaded child windows, by name, in the order they were loaded.
     std::vector<std::string> Hijas() const;

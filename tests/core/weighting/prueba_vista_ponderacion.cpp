@@ -1,0 +1,256 @@
+#include "arbol_ponderado.h"
+#include "core/weighting/vista_ponderacion.h"
+#include "soporte/datos.h"
+#include "soporte/prueba_sesion.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <sstream>
+
+namespace vadro {
+namespace {
+
+const std::string kTitulo = "VADRO PROGRAMADOR: Ponderación";
+const std::string kRamaIncompleta = "Esta rama del árbol no está completa. Solucione el problema "
+                                    "en la ventana de diseño del árbol de requerimientos.";
+
+// The grid as text: the heads, then per row its path and its cells, a merged cell written
+// once with the rows it spans and "^" under it, "[rojo]" for light red.
+std::string Volcar(const VistaPonderacion& vista) {
+    std::ostringstream s;
+    for (const std::string& cabecera : vista.Cabeceras) {
+        s << cabecera << " | ";
+    }
+    s << "\n";
+    std::vector<int> cubiertas(static_cast<std::size_t>(vista.NumColumnas()), 0);
+    for (int f = 0; f < vista.NumFilas(); ++f) {
+        const RutaFila& ruta = vista.Rutas[static_cast<std::size_t>(f)];
+        s << ruta[0] << ":";
+        for (int l = 1; l < 5; ++l) {
+            s << " " << ruta[static_cast<std::size_t>(l)];
+        }
+        for (int c = 0; c < vista.NumColumnas(); ++c) {
+            int& cubierta = cubiertas[static_cast<std::size_t>(c)];
+            if (cubierta > 0) {
+                --cubierta;
+                s << " | ^";
+                continue;
+            }
+            const CeldaVista& celda = vista.Celda(f, c);
+            std::string texto = celda.Texto;
+            for (auto p = texto.find('\n'); p != std::string::npos; p = texto.find('\n')) {
+                texto.replace(p, 1, " / ");
+            }
+            s << " | " << texto;
+            if (celda.Fondo == ColorRojoClaro) {
+                s << " [rojo]";
+            }
+            const int extension = c + 1 < vista.NumColumnas() ? vista.Extension(f, c) : 1;
+            if (extension > 1) {
+                s << " x" << extension;
+                cubierta = extension - 1;
+            }
+        }
+        s << "\n";
+    }
+    return s.str();
+}
+
+class VistaPonderacionPrueba : public pruebas::PruebaSesion {
+protected:
+    Modelo modelo = pruebas::ArbolPonderado();
+    VistaPonderacion vista = ConstruirVistaPonderacion(modelo);
+};
+
+TEST_F(VistaPonderacionPrueba, TheTreeWithSubcriteriaIsOneRowPerLeafPathWithMergedParents) {
+    EXPECT_EQ(Volcar(vista), pruebas::Datos("ponderacion/vista_subcriterios.txt", Volcar(vista)));
+}
+
+TEST_F(VistaPonderacionPrueba, WithoutSubcriteriaColumnTwoShowsTheIndicators) {
+    Modelo correcto = pruebas::ModeloCorrecto();
+    pruebas::PonerClaves(correcto);
+    correcto.Requerimientos(2).Criterios(1).Indicadores(2).Peso = ValorLibre();
+    const VistaPonderacion sin = ConstruirVistaPonderacion(correcto);
+    EXPECT_EQ(Volcar(sin), pruebas::Datos("ponderacion/vista_sin_subcriterios.txt", Volcar(sin)));
+    EXPECT_EQ(sin.Nivel(2), 3);
+    // The indicators of a criterion are one set, whichever of them is clicked.
+    EXPECT_EQ(SeleccionarConjunto(sin, 5, 2), (SeleccionConjunto{2, 4, 5}));
+    const auto direccion = DireccionDeCelda(sin, 5, 2);
+    ASSERT_TRUE(direccion);
+    EXPECT_EQ(NodosConjunto(correcto, *direccion).at(1)->Nombre, "Plazo");
+    EXPECT_EQ(TextoPesoGlobal(correcto, sin, 0, 2), "Peso global: 12.50 %");
+}
+
+TEST_F(VistaPonderacionPrueba, ANodeShowsItsKeyNameAndWeightOnlyWhenItHasOne) {
+    struct Caso {
+        ValorLibre peso;
+        std::string texto;
+        ColorRGB fondo;
+    };
+    const Caso casos[] = {
+        {ValorLibre(), "(C2R1) Plazo", ColorRojoClaro},
+        {12.345, "(C2R1) Plazo\nPeso: 12.35 %", ColorBlanco},
+        {0.0, "(C2R1) Plazo\nPeso: 0.00 %", ColorBlanco},
+        {"33.3", "(C2R1) Plazo\nPeso: 33.30 %", ColorBlanco},
+        {100, "(C2R1) Plazo\nPeso: 100.00 %", ColorBlanco},
+    };
+    for (const Caso& caso : casos) {
+        CabeceraNodo nodo;
+        nodo.Clave = "C2R1";
+        nodo.Nombre = "Plazo";
+        nodo.Peso = caso.peso;
+        EXPECT_EQ(TextoNodoPonderacion(nodo), caso.texto);
+        EXPECT_EQ(ColorNodoPonderacion(nodo), caso.fondo) << caso.texto;
+    }
+}
+
+TEST_F(VistaPonderacionPrueba, AClickSelectsTheSetOfItsNearestFilledParent) {
+    struct Caso {
+        int fila, columna;
+        std::optional<SeleccionConjunto> conjunto; // none: the incomplete-branch message
+    };
+    const Caso casos[] = {
+        {3, 0, SeleccionConjunto{0, 0, 6}}, // the requirements: all rows
+        {6, 0, SeleccionConjunto{0, 0, 6}},
+        {0, 1, SeleccionConjunto{1, 0, 5}}, // criteria of R1
+        {5, 1, SeleccionConjunto{1, 0, 5}},
+        {1, 2, SeleccionConjunto{2, 0, 2}}, // subcriteria of C1
+        {2, 2, SeleccionConjunto{2, 0, 2}},
+        {3, 2, SeleccionConjunto{3, 3, 4}}, // empty subcriterion: C2's own indicators
+        {4, 3, SeleccionConjunto{3, 3, 4}},
+        {1, 3, SeleccionConjunto{3, 0, 1}}, // indicators of S1
+        {6, 1, std::nullopt},               // R2 has no criteria
+        {2, 3, std::nullopt},               // S2 has no indicators
+        {5, 2, std::nullopt},               // C3 has nothing under it
+        {5, 3, std::nullopt},
+    };
+    for (const Caso& caso : casos) {
+        if (!caso.conjunto) {
+            mensajes.Esperar(kTitulo, kRamaIncompleta);
+        }
+        EXPECT_EQ(SeleccionarConjunto(vista, caso.fila, caso.columna), caso.conjunto)
+            << caso.fila << "," << caso.columna;
+        EXPECT_EQ(ConjuntoDeCelda(vista, caso.fila, caso.columna), caso.conjunto);
+        EXPECT_TRUE(mensajes.Completo());
+    }
+    EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Informacion);
+}
+
+TEST_F(VistaPonderacionPrueba, ADoubleClickAddressesTheSetOfItsCell) {
+    struct Caso {
+        int fila, columna;
+        std::string nombres; // of the set's nodes; "-" for none
+    };
+    const Caso casos[] = {
+        {4, 0, "Económico Social "},
+        {2, 1, "Coste Plazo Riesgo "},
+        {0, 2, "Obra Mantenimiento "},
+        {3, 2, "Meses Hitos "},
+        {4, 3, "Meses Hitos "},
+        {1, 3, "Hormigón Acero "},
+        {6, 1, "-"},
+        {2, 3, "-"},
+        {5, 2, "-"},
+    };
+    for (const Caso& caso : casos) {
+        const auto direccion = DireccionDeCelda(vista, caso.fila, caso.columna);
+        std::string nombres = "-";
+        if (direccion) {
+            nombres.clear();
+            for (const CabeceraNodo* nodo : NodosConjunto(modelo, *direccion)) {
+                nombres += nodo->Nombre + " ";
+            }
+        }
+        EXPECT_EQ(nombres, caso.nombres) << caso.fila << "," << caso.columna;
+    }
+}
+
+TEST_F(VistaPonderacionPrueba, TheGlobalWeightMultipliesTheWeightsAlongThePath) {
+    struct Caso {
+        int fila, columna;
+        std::string texto;
+    };
+    // 60 % x 50 % x 40 % x 25 % = 3 %; the criterion's own indicator skips the empty column.
+    const Caso casos[] = {
+        {0, 0, "Peso global: 60.00 %"},
+        {6, 0, "Peso global: 40.00 %"},
+        {0, 1, "Peso global: 30.00 %"},
+        {1, 2, "Peso global: 12.00 %"},
+        {2, 2, "Peso global: 18.00 %"},
+        {0, 3, "Peso global: 3.00 %"},
+        {1, 3, "Peso global: 9.00 %"},
+        {3, 3, "Peso global: 9.00 %"},
+        {4, 3, ""},
+        {5, 1, ""},
+        {2, 3, ""},
+        {6, 1, ""},
+    };
+    for (const Caso& caso : casos) {
+        EXPECT_EQ(TextoPesoGlobal(modelo, vista, caso.fila, caso.columna), caso.texto)
+            << caso.fila << "," << caso.columna;
+    }
+    modelo.Requerimientos(1).Peso = ValorLibre();
+    EXPECT_EQ(TextoPesoGlobal(modelo, vista, 0, 3), "") << "a missing weight up the path";
+}
+
+TEST_F(VistaPonderacionPrueba, RebuildingASetTakesItsNewWeightsAndColours) {
+    const SeleccionConjunto conjunto{3, 3, 4};
+    NodoCriterio& plazo = modelo.Requerimientos(1).Criterios(2);
+    plazo.Indicadores(1).Peso = 20.0;
+    plazo.Indicadores(2).Peso = 80.0;
+    EXPECT_EQ(vista.Celda(4, 3).Texto, "(I2C2R1) Hitos") << "the grid keeps what it was built with";
+    ReconstruirConjunto(modelo, vista, conjunto);
+    EXPECT_EQ(vista.Celda(3, 3).Texto, "(I1C2R1) Meses\nPeso: 20.00 %");
+    EXPECT_EQ(vista.Celda(4, 3).Texto, "(I2C2R1) Hitos\nPeso: 80.00 %");
+    EXPECT_EQ(vista.Celda(4, 3).Fondo, ColorBlanco);
+    EXPECT_EQ(vista.Celda(5, 1).Fondo, ColorRojoClaro) << "outside the set nothing changes";
+
+    plazo.Indicadores(1).Peso = ValorLibre();
+    vista.Filas[3][3].Fondo = ColorMarino;
+    RepintarConjunto(modelo, vista, conjunto);
+    EXPECT_EQ(vista.Celda(3, 3).Fondo, ColorRojoClaro);
+    EXPECT_EQ(vista.Celda(3, 3).Texto, "(I1C2R1) Meses\nPeso: 20.00 %") << "a repaint keeps texts";
+}
+
+TEST_F(VistaPonderacionPrueba, CountsBeyondTheStoredNodesAreNotFollowed) {
+    Modelo m;
+    m.NumRequerimientos = 3;
+    m.Requerimientos.Redimensionar(1);
+    m.Requerimientos(1).NumCriterios = 2;
+    const VistaPonderacion v = ConstruirVistaPonderacion(m);
+    ASSERT_EQ(v.NumFilas(), 1);
+    EXPECT_EQ(v.NumColumnas(), 3);
+    EXPECT_EQ(v.Celda(0, 1).Texto, "");
+}
+
+TEST_F(VistaPonderacionPrueba, AnEmptyModelAsksWhereToGo) {
+    Modelo vacio;
+    EXPECT_FALSE(ModeloPonderable(vacio));
+    vacio.NumRequerimientos = "";
+    EXPECT_FALSE(ModeloPonderable(vacio));
+    EXPECT_TRUE(ModeloPonderable(modelo));
+
+    const std::string texto = "Imposible ponderar. El modelo está vacío.\nDesea volver a la "
+                              "pantalla de diseño del árbol de requerimientos?";
+    mensajes.Esperar(kTitulo, texto, Respuesta::Si);
+    const Transicion diseno = PreguntarModeloVacio();
+    EXPECT_EQ(mensajes.Vistos().at(0).botones, Botones::SiNo);
+    EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Critico);
+    EXPECT_EQ(diseno.descargar, std::vector<Hija>{Hija::Ponderacion});
+    EXPECT_EQ(diseno.cargar, std::vector<Hija>{Hija::Ejes});
+    EXPECT_EQ(diseno.destino, Posicion::Ejes);
+    EXPECT_EQ(diseno.ajuste.grupoDiseno, AjusteDiseno().grupoDiseno);
+    EXPECT_EQ(diseno.ajuste.entradasDiseno, true);
+
+    mensajes.Esperar(kTitulo, texto, Respuesta::No);
+    const Transicion informe = PreguntarModeloVacio();
+    EXPECT_EQ(informe.descargar, std::vector<Hija>{Hija::Ponderacion});
+    EXPECT_EQ(informe.cargar, std::vector<Hija>{Hija::Informe});
+    EXPECT_EQ(informe.destino, Posicion::Informe);
+    EXPECT_EQ(informe.ajuste.entradasDiseno, false);
+    EXPECT_EQ(informe.ajuste.cmdRetroceder, true);
+}
+
+} // namespace
+} // namespace vadro

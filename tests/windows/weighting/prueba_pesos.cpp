@@ -1,0 +1,405 @@
+#include "core/core/formato_numero.h"
+#include "core/weighting/referencia_ahp.h"
+#include "sesion_pesos.h"
+#include "soporte/modelo_sano.h"
+#include "soporte/volcado_ventana.h"
+#include "windows/weighting/frmConsistencia.h"
+#include "windows/weighting/frmSaaty.h"
+
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace vadro {
+namespace {
+
+using pruebas::Fraccion;
+
+const QColor kBlanco(255, 255, 255);
+const QColor kRojoClaro(255, 192, 192);
+const QColor kRojo(255, 0, 0);
+const QColor kVerde(0, 255, 0);
+const QColor kAmarillo(255, 255, 192);
+const std::string kTituloPonderacion = "VADRO PROGRAMADOR: Ponderación";
+const std::string kNoPositivo = "El valor introducido no puede ser cero ni negativo.\nSi no quiere "
+                                "introducir ahora un nuevo valor, deje la casilla en blanco.";
+
+// The three criteria "Agua", "Energía", "Coste" of one requirement, never weighted.
+class VentanaPesos : public pruebas::SesionPesos {
+protected:
+    VentanaPesos() {
+        using namespace pruebas;
+        sesion().modelo = ModeloCon({Requerimiento("R", {Criterio("Agua", {Indicador("x")}),
+                                                         Criterio("Energía", {Indicador("y")}),
+                                                         Criterio("Coste", {Indicador("z")})})});
+        for (int c = 1; c <= 3; ++c) {
+            Nodo(c).Saaty.Borrar();
+            Nodo(c).Peso = ValorLibre();
+            Nodo(c).PesoAuxiliar = ValorLibre();
+        }
+    }
+    NodoCriterio& Nodo(int c) { return sesion().modelo.Requerimientos(1).Criterios(c); }
+    frmPesos& Abrir() {
+        pesos = std::make_unique<frmPesos>(DireccionConjunto{1, {}, {}});
+        pesos->show();
+        pesos->activateWindow();
+        return *pesos;
+    }
+    void Teclear(int fila, int columna, const char* texto) {
+        SesionPesos::Teclear(*pesos, *pesos->grdSaaty, fila, columna, QString::fromUtf8(texto));
+    }
+    // The figures of an exact matrix, as the grid should show them.
+    static std::string PesosDe(const std::vector<std::vector<Fraccion>>& m) {
+        std::string texto;
+        for (const Fraccion& peso : pruebas::CalcularReferencia(m).pesos) {
+            texto += peso.Texto00() + " ";
+        }
+        return texto;
+    }
+    static double RazonDe(const std::vector<std::vector<Fraccion>>& m, double ri) {
+        const double lambda = Redondeado00(pruebas::CalcularReferencia(m).lambda.Doble());
+        const double n = static_cast<double>(m.size());
+        return (lambda - n) / (n - 1) / ri;
+    }
+
+    std::unique_ptr<frmPesos> pesos;
+};
+
+TEST_F(VentanaPesos, TypedValuesShowTheirMirrorsTheWeightsAndTheRatio) {
+    frmPesos& w = Abrir();
+    EXPECT_EQ(w.windowTitle().toStdString(), "Matriz de pesos");
+    EXPECT_TRUE(w.grdSaaty->isVisible());
+    EXPECT_FALSE(w.grdDirecto->isVisible());
+    EXPECT_EQ(Celda(*w.grdSaaty, 0, 0), "AHP");
+    EXPECT_EQ(Celda(*w.grdSaaty, 0, 4), "Peso (%)");
+    EXPECT_EQ(Celda(*w.grdSaaty, 2, 0), "Energía");
+    EXPECT_EQ(Celda(*w.grdSaaty, 0, 2), "Energía");
+    EXPECT_EQ(Fondo(*w.grdSaaty, 2, 2), kAmarillo);
+    EXPECT_EQ(Fondo(*w.grdSaaty, 2, 4), kAmarillo);
+    EXPECT_EQ(Razon(w), "") << "an incomplete matrix";
+    EXPECT_EQ(ColorRazon(w), kRojo);
+    EXPECT_EQ(w.grdSaaty->currentIndex(), w.grdSaaty->model()->index(1, 2));
+
+    Teclear(1, 2, "3");
+    EXPECT_EQ(Celda(*w.grdSaaty, 1, 2), "3.00");
+    EXPECT_EQ(Celda(*w.grdSaaty, 2, 1), "0.33");
+    EXPECT_EQ(Pesos(*w.grdSaaty), "   ") << "no weights while a cell is empty";
+    Teclear(3, 1, "0.2"); // below the diagonal: Coste is a fifth of Agua
+    EXPECT_EQ(Celda(*w.grdSaaty, 1, 3), "5.00");
+    Teclear(2, 3, "3");
+    EXPECT_EQ(Celda(*w.grdSaaty, 3, 2), "0.33");
+    EXPECT_EQ(w.grdSaaty->currentIndex(), w.grdSaaty->model()->index(2, 3));
+    EXPECT_TRUE(w.txtValor->isHidden());
+
+    const std::vector<std::vector<Fraccion>> m = {{Fraccion(1), Fraccion(3), Fraccion(5)},
+                                                  {Fraccion(1, 3), Fraccion(1), Fraccion(3)},
+                                                  {Fraccion(1, 5), Fraccion(1, 3), Fraccion(1)}};
+    EXPECT_EQ(Pesos(*w.grdSaaty), PesosDe(m));
+    EXPECT_EQ(Razon(w), Formato00(RazonDe(m, 0.58)));
+    EXPECT_EQ(ColorRazon(w), kAmarillo) << Razon(w);
+
+    // A judgement far from the others: the ratio goes over 0.1.
+    Teclear(2, 3, "9");
+    const std::vector<std::vector<Fraccion>> mala = {{Fraccion(1), Fraccion(3), Fraccion(5)},
+                                                     {Fraccion(1, 3), Fraccion(1), Fraccion(9)},
+                                                     {Fraccion(1, 5), Fraccion(1, 9), Fraccion(1)}};
+    EXPECT_EQ(Pesos(*w.grdSaaty), PesosDe(mala));
+    EXPECT_EQ(Razon(w), Formato00(RazonDe(mala, 0.58)));
+    EXPECT_EQ(ColorRazon(w), kRojo);
+    EXPECT_TRUE(w.Edicion().ModificadoAHP);
+    EXPECT_FALSE(w.Edicion().ModificadoDirecto);
+    EXPECT_EQ(w.grdSaaty->model()->index(2, 3).data(Qt::ToolTipRole).toString().toStdString(),
+              "9.00");
+    EXPECT_FALSE(w.grdSaaty->model()->index(0, 2).data(Qt::ToolTipRole).isValid());
+}
+
+TEST_F(VentanaPesos, ZeroAndNegativesAreRefusedAndTheBoxStaysForANewValue) {
+    frmPesos& w = Abrir();
+    for (const char* texto : {"0", "-2"}) {
+        mensajes.Esperar(kTituloPonderacion, kNoPositivo);
+        Teclear(1, 2, texto);
+        EXPECT_TRUE(mensajes.Completo());
+        EXPECT_FALSE(w.txtValor->isHidden()) << texto;
+        EXPECT_EQ(w.txtValor->text().toStdString(), "");
+        EXPECT_EQ(Celda(*w.grdSaaty, 1, 2), "");
+        EXPECT_TRUE(sesion().MatrizSaaty(1, 2).EsVacio());
+    }
+    QTest::keyClicks(w.txtValor, QStringLiteral("4"));
+    QTest::keyClick(w.txtValor, Qt::Key_Return);
+    EXPECT_EQ(Celda(*w.grdSaaty, 1, 2), "4.00");
+    EXPECT_EQ(Celda(*w.grdSaaty, 2, 1), "0.25");
+}
+
+TEST_F(VentanaPesos, TheFilterTheKeysAndTheBlankOfACell) {
+    frmPesos& w = Abrir();
+    // Letters other than the exponent's go, and so does a second separator.
+    w.grdSaaty->setCurrentIndex(w.grdSaaty->model()->index(1, 2));
+    QTest::keyClicks(w.grdSaaty, QStringLiteral("1"));
+    QTest::keyClicks(w.txtValor, QStringLiteral("a.2x.5E"));
+    EXPECT_EQ(w.txtValor->text().toStdString(), "1.25E");
+    QTest::keyClick(w.txtValor, Qt::Key_Backspace);
+    QTest::keyClick(w.txtValor, Qt::Key_Right); // commits and moves on
+    EXPECT_EQ(Celda(*w.grdSaaty, 1, 2), "1.25");
+    EXPECT_EQ(w.grdSaaty->currentIndex(), w.grdSaaty->model()->index(1, 3));
+
+    // Escape keeps nothing; "1e" is no number and stores nothing.
+    QTest::keyClicks(w.grdSaaty, QStringLiteral("7"));
+    QTest::keyClick(w.txtValor, Qt::Key_Escape);
+    EXPECT_TRUE(w.txtValor->isHidden());
+    EXPECT_EQ(Celda(*w.grdSaaty, 1, 3), "");
+    Teclear(1, 3, "1e");
+    EXPECT_TRUE(w.txtValor->isHidden());
+    EXPECT_EQ(Celda(*w.grdSaaty, 1, 3), "");
+
+    // The fixed cells, the diagonal and the weights take no input.
+    for (const auto& [fila, columna] : {std::pair{0, 1}, {1, 0}, {2, 2}, {1, 4}}) {
+        w.grdSaaty->setCurrentIndex(w.grdSaaty->model()->index(fila, columna));
+        QTest::keyClicks(w.grdSaaty, QStringLiteral("5"));
+        EXPECT_TRUE(w.txtValor->isHidden()) << fila << "," << columna;
+    }
+
+    // Space opens on the cell's text; emptied, the two cells go blank on the grid only.
+    Teclear(1, 3, "2");
+    Teclear(2, 3, "1");
+    const std::string pesosAntes = Pesos(*w.grdSaaty);
+    w.grdSaaty->setCurrentIndex(w.grdSaaty->model()->index(1, 2));
+    QTest::keyClick(w.grdSaaty, Qt::Key_Space);
+    EXPECT_EQ(w.txtValor->selectedText().toStdString(), "1.25");
+    QTest::keyClick(w.txtValor, Qt::Key_Backspace);
+    QTest::keyClick(w.txtValor, Qt::Key_Return);
+    EXPECT_EQ(Celda(*w.grdSaaty, 1, 2), "");
+    EXPECT_EQ(Celda(*w.grdSaaty, 2, 1), "");
+    EXPECT_EQ(sesion().MatrizSaaty(1, 2), ValorLibre("1.25")) << "the matrix keeps its value";
+    EXPECT_EQ(Pesos(*w.grdSaaty), pesosAntes);
+    EXPECT_EQ(w.grdSaaty->currentIndex(), w.grdSaaty->model()->index(2, 1)) << "on the mirror";
+}
+
+TEST_F(VentanaPesos, OneThirdChosenOnTheSaatyScaleWithTheCellBlinking) {
+    frmPesos& w = Abrir();
+    Teclear(1, 3, "2");
+    Teclear(2, 3, "2");
+    w.grdSaaty->setCurrentIndex(w.grdSaaty->model()->index(1, 2));
+    modales.Esperar(QStringLiteral("frmSaaty"), [&w](QDialog& d) {
+        auto& escala = static_cast<frmSaaty&>(d);
+        EXPECT_EQ(escala.windowTitle().toStdString(), "Selección del parámetro SAATY");
+        EXPECT_EQ(escala.lblFila->text().toStdString(), "AGUA");
+        EXPECT_EQ(escala.lblMasColumna->text().toStdString(), "ENERGÍA");
+        EXPECT_EQ(escala.lblMenosColumna->text().toStdString(), "ENERGÍA");
+        EXPECT_TRUE(escala.optPeso[0]->isChecked()) << "an empty cell opens on 1";
+        EXPECT_EQ(escala.optPeso[11]->property("Tag").toString().toStdString(),
+                  "0.333333333333333");
+        // The cell under judgement blinks once a second while the scale is open.
+        EXPECT_TRUE(w.tmrIntermitencia->isActive());
+        EXPECT_EQ(w.tmrIntermitencia->interval(), 50);
+        w.Parpadear(10);
+        EXPECT_EQ(Fondo(*w.grdSaaty, 1, 2), kRojoClaro);
+        w.Parpadear(10);
+        EXPECT_EQ(Fondo(*w.grdSaaty, 1, 2), kRojoClaro) << "the same second";
+        w.Parpadear(11);
+        EXPECT_EQ(Fondo(*w.grdSaaty, 1, 2), kBlanco);
+        w.Parpadear(12);
+        QTest::mouseClick(escala.lblPeso[11], Qt::LeftButton);
+        EXPECT_TRUE(escala.optPeso[11]->isChecked()) << "a click on the words";
+        escala.cmdAceptar->click();
+    });
+    w.grdSaaty_DblClick();
+    EXPECT_TRUE(modales.Vistas().size() == 1);
+    EXPECT_FALSE(w.tmrIntermitencia->isActive());
+    EXPECT_EQ(Fondo(*w.grdSaaty, 1, 2), kBlanco) << "left white";
+    EXPECT_EQ(Celda(*w.grdSaaty, 1, 2), "0.33");
+    EXPECT_EQ(Celda(*w.grdSaaty, 2, 1), "3.00");
+    EXPECT_EQ(sesion().MatrizSaaty(1, 2), ValorLibre(1.0 / 3));
+    const std::vector<std::vector<Fraccion>> m = {{Fraccion(1), Fraccion(1, 3), Fraccion(2)},
+                                                  {Fraccion(3), Fraccion(1), Fraccion(2)},
+                                                  {Fraccion(1, 2), Fraccion(1, 2), Fraccion(1)}};
+    EXPECT_EQ(Pesos(*w.grdSaaty), PesosDe(m));
+    EXPECT_EQ(Razon(w), Formato00(RazonDe(m, 0.58)));
+
+    // A shown figure matches no tag: no option is on; a double click on the words accepts.
+    modales.Esperar(QStringLiteral("frmSaaty"), [](QDialog& d) {
+        auto& escala = static_cast<frmSaaty&>(d);
+        for (QRadioButton* opcion : escala.optPeso) {
+            EXPECT_FALSE(opcion->isChecked()) << opcion->objectName().toStdString();
+        }
+        QTest::mouseDClick(escala.lblPeso[4], Qt::LeftButton);
+        EXPECT_FALSE(escala.isVisible());
+    });
+    w.grdSaaty_DblClick();
+    EXPECT_EQ(Celda(*w.grdSaaty, 1, 2), "5.00");
+    EXPECT_EQ(sesion().MatrizSaaty(1, 2), ValorLibre(5));
+
+    // Below the diagonal, and on the weights, there is no scale.
+    w.grdSaaty->setCurrentIndex(w.grdSaaty->model()->index(2, 1));
+    w.grdSaaty_DblClick();
+    w.grdSaaty->setCurrentIndex(w.grdSaaty->model()->index(1, 4));
+    w.grdSaaty_DblClick();
+    EXPECT_EQ(modales.Vistas().size(), 2u);
+}
+
+TEST_F(VentanaPesos, ThePerfectMatrixIsRefusedThenShownAndTakenOver) {
+    frmPesos& w = Abrir();
+    Teclear(1, 2, "2");
+    mensajes.Esperar("VADRO PROGRAMADOR: consistencia perfecta",
+                     "Al menos uno de los valores de la primera fila es cero o está vacío. No es "
+                     "posible calcular la consistencia perfecta!!");
+    w.cmdConsistencia->click();
+    EXPECT_TRUE(modales.Vistas().empty());
+
+    Teclear(1, 3, "4");
+    Teclear(2, 3, "7");
+    sesion().modelo.Modificado = false;
+    w.grdSaaty->setCurrentIndex(w.grdSaaty->model()->index(2, 3));
+    mensajes.Esperar("VADRO PROGRAMADOR: Consistencia perfecta",
+                     "Desea traspasar los valores hallados a la matriz de pesos?\nSe perderán los "
+                     "valores introducidos inicialmente.",
+                     Respuesta::Si);
+    modales.Esperar(QStringLiteral("frmConsistencia"), [&w](QDialog& d) {
+        auto& perfecta = static_cast<frmConsistencia&>(d);
+        const QTableView& g = *perfecta.grdSaaty;
+        EXPECT_EQ(Celda(g, 0, 0), "AHP");
+        EXPECT_EQ(Celda(g, 0, 4), "Peso");
+        EXPECT_EQ(Celda(g, 3, 0), "Coste");
+        EXPECT_EQ(Celda(g, 2, 1) + " " + Celda(g, 2, 2) + " " + Celda(g, 2, 3), "0.50 1.00 2.00");
+        EXPECT_EQ(Celda(g, 3, 1) + " " + Celda(g, 3, 2) + " " + Celda(g, 3, 3), "0.25 0.50 1.00");
+        EXPECT_EQ(Pesos(g), "57.14 28.57 14.29 ");
+        EXPECT_EQ(Fondo(g, 2, 2), kAmarillo);
+        EXPECT_EQ(perfecta.lblCR->text().toStdString(), "0.00");
+        EXPECT_EQ(Celda(*w.grdSaaty, 2, 3), "7.00") << "nothing taken over yet";
+        perfecta.cmdAceptar->click();
+        EXPECT_EQ(Celda(*w.grdSaaty, 2, 3), "2.00") << "taken over at once";
+        EXPECT_EQ(Celda(*w.grdSaaty, 0, 4), "Peso") << "the fixed cells too";
+        EXPECT_EQ(Razon(w), "0.00");
+        EXPECT_EQ(ColorRazon(w), kRojo) << "the colour waits for the recomputation";
+    });
+    w.cmdConsistencia->click();
+    EXPECT_EQ(Pesos(*w.grdSaaty), "57.14 28.57 14.29 ");
+    EXPECT_EQ(ColorRazon(w), kVerde);
+    EXPECT_EQ(sesion().MatrizSaaty(3, 2), ValorLibre(0.5));
+    EXPECT_TRUE(sesion().modelo.Modificado);
+    EXPECT_EQ(w.grdSaaty->currentIndex(), w.grdSaaty->model()->index(2, 3)) << "restored";
+}
+
+TEST_F(VentanaPesos, AcceptanceWithAHighRatioAnsweredNoWritesTheSet) {
+    frmPesos& w = Abrir();
+    Teclear(1, 2, "9");
+    Teclear(1, 3, "0.2");
+    Teclear(2, 3, "8");
+    const std::string pesosMostrados = Pesos(*w.grdSaaty);
+    mensajes.Esperar("VADRO PROGRAMADOR: matriz NO consistente",
+                     "La matriz de pesos NO es consistente. Desea modificarla?", Respuesta::Si);
+    w.cmdAceptar->click();
+    EXPECT_TRUE(w.isVisible()) << "Yes goes back to the matrix";
+    EXPECT_TRUE(Nodo(1).Peso.EsVacio());
+
+    mensajes.Esperar("VADRO PROGRAMADOR: matriz NO consistente",
+                     "La matriz de pesos NO es consistente. Desea modificarla?", Respuesta::No);
+    w.cmdAceptar->click();
+    EXPECT_FALSE(w.isVisible());
+    EXPECT_EQ(w.result(), QDialog::Accepted);
+    EXPECT_TRUE(sesion().modelo.Modificado);
+    std::string escritos;
+    for (int c = 1; c <= 3; ++c) {
+        escritos += Formato00(Nodo(c).Peso) + " ";
+        EXPECT_EQ(Nodo(c).Calculo, CalculoSaaty);
+        EXPECT_EQ(Formato00(Nodo(c).PesoAuxiliar), Razon(w));
+    }
+    EXPECT_EQ(escritos, pesosMostrados);
+    EXPECT_EQ(Nodo(1).Saaty(2), ValorLibre("9"));
+    EXPECT_EQ(Nodo(3).Saaty(1), ValorLibre(5.0));
+    EXPECT_EQ(Nodo(2).Saaty(2), ValorLibre(1));
+}
+
+TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) {
+    frmPesos& w = Abrir();
+    Teclear(1, 2, "3"); // the matrix is typed in, then the direct method is chosen
+    w.optDirecto->click();
+    EXPECT_TRUE(w.grdDirecto->isVisible());
+    EXPECT_FALSE(w.grdSaaty->isVisible());
+    EXPECT_FALSE(w.cmdConsistencia->isVisible());
+    EXPECT_FALSE(w.lblCR->isVisible());
+    const QTableView& g = *w.grdDirecto;
+    EXPECT_EQ(Celda(g, 0, 0) + "|" + Celda(g, 0, 1) + "|" + Celda(g, 0, 2) + "|" + Celda(g, 4, 0),
+              "DIRECTO|Puntuación|Peso (%)|TOTAL");
+
+    // A click on a score opens the input on its text.
+    const auto pulsar = [&w](int fila, int columna, const char* texto) {
+        const QRect celda = w.grdDirecto->visualRect(w.grdDirecto->model()->index(fila, columna));
+        QTest::mouseClick(w.grdDirecto->viewport(), Qt::LeftButton, {}, celda.center());
+        EXPECT_FALSE(w.txtValor->isHidden()) << fila;
+        w.txtValor->selectAll();
+        QTest::keyClicks(w.txtValor, QString::fromUtf8(texto));
+        QTest::keyClick(w.txtValor, Qt::Key_Return);
+    };
+    pulsar(1, 1, "1");
+    pulsar(3, 2, "3"); // typed in the percentage column: the row's score
+    EXPECT_EQ(Celda(g, 1, 2) + " " + Celda(g, 2, 2) + " " + Celda(g, 3, 2), "25.00  75.00");
+    EXPECT_EQ(Celda(g, 4, 1) + " " + Celda(g, 4, 2), "4.00 100.00 %");
+    const QRect total = w.grdDirecto->visualRect(w.grdDirecto->model()->index(4, 1));
+    QTest::mouseClick(w.grdDirecto->viewport(), Qt::LeftButton, {}, total.center());
+    EXPECT_TRUE(w.txtValor->isHidden()) << "the total row takes no input";
+
+    mensajes.Esperar("VADRO PROGRAMADOR",
+                     "La matriz de ponderación en modo directo no está completa. Desea continuar?",
+                     Respuesta::No);
+    w.cmdAceptar->click();
+    EXPECT_TRUE(Nodo(1).Peso.EsVacio());
+
+    pulsar(2, 1, "1");
+    EXPECT_EQ(Celda(g, 1, 2) + " " + Celda(g, 2, 2) + " " + Celda(g, 3, 2), "20.00 20.00 60.00");
+    // The third score was typed in the percentage column: its score cell still shows nothing,
+    // so the list is incomplete. Yes writes; the matrix was typed in, so the first warning
+    // follows, and No keeps the window with the data written.
+    mensajes.Esperar("VADRO PROGRAMADOR",
+                     "La matriz de ponderación en modo directo no está completa. Desea continuar?",
+                     Respuesta::Si);
+    mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos",
+                     "La matriz de pesos AHP ha sido modificada y se perderán los valores "
+                     "introducidos.\nDesea continuar?",
+                     Respuesta::No);
+    w.cmdAceptar->click();
+    EXPECT_TRUE(w.isVisible());
+    EXPECT_EQ(Nodo(3).Peso, ValorLibre(60.0));
+    EXPECT_EQ(Nodo(3).Directo, ValorLibre(3.0));
+    EXPECT_EQ(Nodo(1).Calculo, CalculoDirecto);
+    EXPECT_EQ(Nodo(1).Saaty(2), ValorLibre("3")) << "the matrix is written too";
+
+    // Cancel: No stays; Yes leaves, through the same warning.
+    const std::string tituloCerrar = "VADRO PROGRAMADOR: cerrar matriz de pesos";
+    const std::string cerrar = "Se perderán los últimos datos introducidos. Desea continuar?";
+    mensajes.Esperar(tituloCerrar, cerrar, Respuesta::No);
+    w.cmdCancelar->click();
+    EXPECT_TRUE(w.isVisible());
+    mensajes.Esperar(tituloCerrar, cerrar, Respuesta::Si);
+    mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos",
+                     "La matriz de pesos AHP ha sido modificada y se perderán los valores "
+                     "introducidos.\nDesea continuar?",
+                     Respuesta::Si);
+    w.cmdCancelar->click();
+    EXPECT_FALSE(w.isVisible());
+}
+
+TEST_F(VentanaPesos, TheDumpsOfTheThreeWindowsAndASetOfOne) {
+    frmPesos& w = Abrir();
+    pruebas::CompararVolcado(w, "frmPesos");
+    frmSaaty escala(vadro::Celda{1, 2}, w.RejillaSaaty(), {});
+    pruebas::CompararVolcado(escala, "frmSaaty");
+    Teclear(1, 2, "2");
+    Teclear(1, 3, "2");
+    frmConsistencia perfecta(w.RejillaSaaty(), *w.lblCR);
+    pruebas::CompararVolcado(perfecta, "frmConsistencia");
+
+    using namespace pruebas;
+    sesion().modelo = ModeloCon({Requerimiento("Único", {Criterio("Solo", {Indicador("x")})})});
+    frmPesos solo(DireccionConjunto{1, {}, {}});
+    EXPECT_EQ(Pesos(*solo.grdSaaty), "100.00 ");
+    EXPECT_EQ(Celda(*solo.grdSaaty, 1, 1), "1");
+    EXPECT_EQ(solo.lblCR->text().toStdString(), "0.00");
+    EXPECT_EQ(solo.lblCR->palette().color(QPalette::Window), kVerde);
+    QTest::keyClicks(solo.grdSaaty, QStringLiteral("5"));
+    EXPECT_TRUE(solo.txtValor->isHidden()) << "the diagonal cannot be edited";
+}
+
+} // namespace
+} // namespace vadro

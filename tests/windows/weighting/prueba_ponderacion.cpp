@@ -1,0 +1,242 @@
+#include "core/files/modelo_archivo.h"
+#include "core/weighting/arbol_ponderado.h"
+#include "sesion_pesos.h"
+#include "soporte/datos.h"
+#include "soporte/volcado_ventana.h"
+#include "windows/shell/ventana_principal.h"
+#include "windows/weighting/frmPonderacion.h"
+
+#include <QHeaderView>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+namespace vadro {
+namespace {
+
+const QColor kBlanco(255, 255, 255);
+const QColor kRojoClaro(255, 192, 192);
+const QColor kMarino(0, 0, 128);
+const std::string kTitulo = "VADRO PROGRAMADOR: Ponderación";
+
+class Ponderacion : public pruebas::SesionPesos {
+protected:
+    Ponderacion() { sesion().modelo = pruebas::ArbolPonderado(); }
+    frmPonderacion& Abrir() {
+        ventana = std::make_unique<frmPonderacion>();
+        ventana->resize(900, 600);
+        ventana->show();
+        return *ventana;
+    }
+    QTableView& Rejilla() const { return *ventana->grdRequerimientos; }
+    QPoint Centro(int fila, int columna) const {
+        return Rejilla().visualRect(Rejilla().model()->index(fila, columna)).center();
+    }
+    void Pulsar(int fila, int columna) {
+        QTest::mouseClick(Rejilla().viewport(), Qt::LeftButton, {}, Centro(fila, columna));
+    }
+    // As the system delivers a double click: press, release, press, double click, release.
+    void DoblePulsar(int fila, int columna) {
+        QWidget* area = Rejilla().viewport();
+        const QPoint punto = Centro(fila, columna);
+        QTest::mousePress(area, Qt::LeftButton, {}, punto);
+        QTest::mouseRelease(area, Qt::LeftButton, {}, punto);
+        QTest::mousePress(area, Qt::LeftButton, {}, punto);
+        QTest::mouseDClick(area, Qt::LeftButton, {}, punto);
+        QTest::mouseRelease(area, Qt::LeftButton, {}, punto);
+    }
+    // The cells of a column, each as its back colour's initial: b white, r light red, m navy.
+    std::string Colores(int columna) const {
+        std::string colores;
+        for (int fila = 0; fila < Rejilla().model()->rowCount(); ++fila) {
+            const QColor c = Fondo(Rejilla(), fila, columna);
+            colores += c == kBlanco ? 'b' : c == kRojoClaro ? 'r' : c == kMarino ? 'm' : '?';
+        }
+        return colores;
+    }
+    std::string Ayuda(int fila, int columna) const {
+        return Rejilla()
+            .model()
+            ->index(fila, columna)
+            .data(Qt::ToolTipRole)
+            .toString()
+            .toStdString();
+    }
+
+    std::unique_ptr<frmPonderacion> ventana;
+};
+
+TEST_F(Ponderacion, TheTreeWithSubcriteriaMergesEachParentOverItsDescendants) {
+    QTableView& g = *Abrir().grdRequerimientos;
+    ASSERT_EQ(g.model()->columnCount(), 4);
+    ASSERT_EQ(g.model()->rowCount(), 7);
+    std::string cabeceras;
+    for (int c = 0; c < 4; ++c) {
+        cabeceras += g.model()->headerData(c, Qt::Horizontal).toString().toStdString() + "|";
+    }
+    EXPECT_EQ(cabeceras, "Requerimientos|Criterios|Subcriterios|Indicadores|");
+    struct Union {
+        int fila, columna, filas;
+    };
+    for (const Union& u :
+         {Union{0, 0, 6}, Union{6, 0, 1}, Union{0, 1, 3}, Union{3, 1, 2}, Union{5, 1, 1},
+          Union{0, 2, 2}, Union{2, 2, 1}, Union{3, 2, 1}, Union{0, 3, 1}}) {
+        EXPECT_EQ(g.rowSpan(u.fila, u.columna), u.filas) << u.fila << "," << u.columna;
+        EXPECT_EQ(g.columnSpan(u.fila, u.columna), 1);
+    }
+    EXPECT_EQ(Celda(g, 0, 3), "(I1S1C1R1) Hormigón\nPeso: 25.00 %");
+    EXPECT_EQ(Celda(g, 5, 1), "(C3R1) Riesgo") << "no weight, no second line";
+    EXPECT_EQ(Celda(g, 4, 2), "");
+    EXPECT_EQ(Colores(1).substr(3), "bbrb") << "C2 over two rows, then C3 light red, R2 empty";
+    EXPECT_EQ(Colores(3), "bbbbrbb");
+    EXPECT_EQ(g.model()->index(0, 0).data(Qt::TextAlignmentRole).value<Qt::Alignment>(),
+              Qt::Alignment(Qt::AlignCenter));
+    ASSERT_EQ(sesion().FilasPonderacion.size(), 7u);
+    EXPECT_EQ(sesion().FilasPonderacion[3], (std::array<int16_t, 5>{4, 1, 2, -1, 1}));
+    EXPECT_EQ(sesion().FilasPonderacion[6], (std::array<int16_t, 5>{7, 2, -1, -1, -1}));
+    // What a node finally counts for, along its path.
+    EXPECT_EQ(Ayuda(0, 3), "Peso global: 3.00 %");
+    EXPECT_EQ(Ayuda(3, 3), "Peso global: 9.00 %");
+    EXPECT_EQ(Ayuda(4, 3), "");
+    EXPECT_EQ(Ayuda(0, 2), "Peso global: 12.00 %");
+}
+
+TEST_F(Ponderacion, WithoutSubcriteriaTheGridHasThreeColumns) {
+    sesion().modelo = pruebas::ModeloCorrecto();
+    pruebas::PonerClaves(sesion().modelo);
+    QTableView& g = *Abrir().grdRequerimientos;
+    ASSERT_EQ(g.model()->columnCount(), 3);
+    EXPECT_EQ(g.model()->headerData(2, Qt::Horizontal).toString().toStdString(), "Indicadores");
+    EXPECT_EQ(g.rowSpan(0, 0), 4);
+    EXPECT_EQ(g.rowSpan(4, 1), 2);
+    EXPECT_EQ(Celda(g, 7, 2), "(I2C2R2) Plazo\nPeso: 50.00 %");
+    EXPECT_EQ(Ayuda(7, 2), "Peso global: 12.50 %");
+    Pulsar(7, 2);
+    EXPECT_EQ(Colores(2), "bbbbbbmm");
+}
+
+TEST_F(Ponderacion, AClickPaintsTheSetNavyAndAnIncompleteBranchIsTold) {
+    Abrir();
+    Pulsar(1, 3);
+    EXPECT_EQ(Colores(3), "mmbbrbb");
+    EXPECT_EQ(Rejilla().model()->index(0, 3).data(Qt::ForegroundRole).value<QColor>(),
+              ventana->palette().color(QPalette::Window));
+    Pulsar(3, 2); // a criterion's own indicators, under the empty subcriteria cell
+    EXPECT_EQ(Colores(3), "bbbmmbb") << "the former set is repainted by its weights";
+    EXPECT_EQ(Colores(2), "bbbbbbb");
+    Pulsar(5, 1);
+    EXPECT_EQ(Colores(3), "bbbbrbb");
+    EXPECT_EQ(Colores(1), "mmmmmmb");
+
+    mensajes.Esperar(kTitulo, "Esta rama del árbol no está completa. Solucione el problema en la "
+                              "ventana de diseño del árbol de requerimientos.");
+    Pulsar(2, 3);
+    EXPECT_EQ(Colores(1), "mmmmmmb") << "the selection stays";
+    Pulsar(0, 0);
+    EXPECT_EQ(Colores(0), "mmmmmmm");
+    EXPECT_EQ(Colores(1), "bbbbbrb");
+}
+
+TEST_F(Ponderacion, ADoubleClickWeighsTheSetAndItsCellsComeBackWithTheirWeights) {
+    Abrir();
+    sesion().modelo.Modificado = false;
+    modales.Esperar(QStringLiteral("frmPesos"), [](QDialog& d) {
+        auto& pesos = static_cast<frmPesos&>(d);
+        EXPECT_TRUE(pesos.optSaaty->isChecked());
+        EXPECT_EQ(Celda(*pesos.grdSaaty, 1, 0) + "|" + Celda(*pesos.grdSaaty, 0, 2), "Meses|Hitos");
+        EXPECT_EQ(Pesos(*pesos.grdSaaty), "50.00 50.00 ") << "recomputed, not read";
+        Teclear(pesos, *pesos.grdSaaty, 2, 1, QStringLiteral("0.25"));
+        EXPECT_EQ(Pesos(*pesos.grdSaaty), "80.00 20.00 ");
+        EXPECT_EQ(Razon(pesos), "0.00");
+        pesos.cmdAceptar->click();
+    });
+    DoblePulsar(4, 3);
+    ASSERT_EQ(modales.Vistas().size(), 1u);
+    EXPECT_EQ(Celda(Rejilla(), 3, 3), "(I1C2R1) Meses\nPeso: 80.00 %");
+    EXPECT_EQ(Celda(Rejilla(), 4, 3), "(I2C2R1) Hitos\nPeso: 20.00 %");
+    EXPECT_EQ(Colores(3), "bbbbbbb") << "the light red is gone";
+    EXPECT_EQ(Ayuda(4, 3), "Peso global: 6.00 %");
+    EXPECT_TRUE(sesion().modelo.Modificado);
+
+    // The model as a save writes it: the set's lines.
+    const std::string ruta = Ruta("pesos.vdm");
+    ASSERT_TRUE(GuardarModelo(sesion().modelo, ruta, true));
+    std::istringstream texto(Contenido(ruta));
+    std::string linea, lineas;
+    while (std::getline(texto, linea)) {
+        if (linea.rfind("REQ_I", 0) == 0 && linea.find("C2R1_") != std::string::npos) {
+            lineas += linea + "\n";
+        }
+    }
+    EXPECT_EQ(lineas, pruebas::Datos("ponderacion/conjunto_guardado.txt", lineas));
+}
+
+TEST_F(Ponderacion, TheDirectMethodOpensOnItsGridAndACancelWritesNothing) {
+    sesion().modelo.Requerimientos(1).Calculo = CalculoDirecto;
+    const Modelo antes = sesion().modelo;
+    Abrir();
+    modales.Esperar(QStringLiteral("frmPesos"), [](QDialog& d) {
+        auto& pesos = static_cast<frmPesos&>(d);
+        EXPECT_TRUE(pesos.optDirecto->isChecked());
+        EXPECT_TRUE(pesos.grdDirecto->isVisible());
+        EXPECT_FALSE(pesos.grdSaaty->isVisible());
+        // No scores: the percentages are made from them, not from the stored weights.
+        EXPECT_EQ(Celda(*pesos.grdDirecto, 2, 0) + "|" + Celda(*pesos.grdDirecto, 2, 2) + "|" +
+                      Celda(*pesos.grdDirecto, 3, 2),
+                  "Social||");
+        pesos.cmdCancelar->click();
+    });
+    mensajes.Esperar("VADRO PROGRAMADOR: cerrar matriz de pesos",
+                     "Se perderán los últimos datos introducidos. Desea continuar?", Respuesta::Si);
+    DoblePulsar(6, 0);
+    EXPECT_EQ(sesion().modelo, antes);
+    EXPECT_EQ(Celda(Rejilla(), 6, 0), "(R2) Social\nPeso: 40.00 %");
+
+    // An empty cell opens nothing.
+    mensajes.Esperar(kTitulo, "Esta rama del árbol no está completa. Solucione el problema en la "
+                              "ventana de diseño del árbol de requerimientos.");
+    ventana->grdRequerimientos_Click(6, 1);
+    ventana->grdRequerimientos_DblClick(6, 1);
+    EXPECT_EQ(modales.Vistas().size(), 1u);
+}
+
+TEST_F(Ponderacion, TheDumpOfTheOverview) {
+    pruebas::CompararVolcado(Abrir(), "frmPonderacion");
+}
+
+class PonderacionVacia : public pruebas::VentanaPrincipal {
+protected:
+    void HastaLosPesos(Respuesta respuesta) {
+        NuevoModelo();
+        principal.cmdContinuar->click();
+        mensajes.Esperar(kTitulo,
+                         "Imposible ponderar. El modelo está vacío.\nDesea volver a la pantalla de "
+                         "diseño del árbol de requerimientos?",
+                         respuesta);
+        ContinuarAceptandoPermisos();
+        EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Critico);
+    }
+};
+
+TEST_F(PonderacionVacia, NoGoesToTheReport) {
+    HastaLosPesos(Respuesta::No);
+    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Informe");
+    EXPECT_EQ(Estado(), "Posición: informe");
+    EXPECT_EQ(Hijas(), std::vector<std::string>{"frmInforme"});
+    EsperarAjusteB();
+}
+
+TEST_F(PonderacionVacia, YesGoesBackToTheDesign) {
+    HastaLosPesos(Respuesta::Si);
+    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
+    EXPECT_EQ(Estado(), "Posición: ejes");
+    EXPECT_EQ(Hijas(), std::vector<std::string>{"frmEjes"});
+    EsperarAjusteA();
+}
+
+} // namespace
+} // namespace vadro
