@@ -26,16 +26,14 @@ frmNuevaEtapa::frmNuevaEtapa(EdicionEtapas& etapas, QWidget* padre)
     txtDenominacion->setObjectName(Q("txtDenominacion"));
     txtDenominacion->setMinimumWidth(txtDenominacion->fontMetrics().averageCharWidth() * 36);
     txtDenominacion->installEventFilter(this);
+    // The default button: Return in the field accepts.
     cmdAceptar = BotonAceptar(this);
-    cmdAceptar->setAutoDefault(false);
     cmdCancelar = Boton(this, "cmdCancelar", "Cancelar");
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(lblDenominacion);
     columna->addWidget(txtDenominacion);
     columna->addLayout(FilaBotones({cmdAceptar, cmdCancelar}));
     Conectar(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
-    // Return in the field accepts.
-    Conectar(txtDenominacion, &QLineEdit::returnPressed, this, [this] { cmdAceptar_Click(); });
     Conectar(cmdCancelar, &QPushButton::clicked, this, [this] { reject(); });
     AjustarFuente(*this);
 }
