@@ -203,7 +203,7 @@ void Arbol::CambiarClave(NodoArbol* nodo, const std::string& key) {
     if (!key.empty()) {
         porClave_.emplace(key, nodo);
     }
-    Avisar([&](ObservadorArbol& o) { o.NodoCambiado(nodo); });
+    Avisar([&](ObservadorArbol& o) { o.ClaveCambiada(nodo); });
 }
 
 void Arbol::CambiarTexto(NodoArbol* nodo, const std::string& text) {
@@ -312,7 +312,8 @@ NodoArbol* CopiarRama(const NodoArbol& nodo, Arbol& destino, NodoArbol* padre,
     }
     destino.AsegurarVisible(copia);
     // A copy of the list: the copy of the branch may land in the same tree, under this node.
-    const std::vector<NodoArbol*> hijos = nodo.Hijos(); // NOLINT(performance-unnecessary-copy-initialization)
+    const std::vector<NodoArbol*> hijos =
+        nodo.Hijos(); // NOLINT(performance-unnecessary-copy-initialization)
     for (const NodoArbol* hijo : hijos) {
         CopiarRama(*hijo, destino, copia, nuevaClave, imagen);
     }

@@ -89,6 +89,8 @@ public:
     virtual void DespuesDeVaciar() {}
     // Key, text, tag, image or expansion of a node changed.
     virtual void NodoCambiado(const NodoArbol* /*nodo*/) {}
+    // Only the key changed, which a view need not show; by default a change like any other.
+    virtual void ClaveCambiada(const NodoArbol* nodo) { NodoCambiado(nodo); }
     virtual void SeleccionCambiada(const NodoArbol* /*nodo*/) {}
     virtual void ResaltadoCambiado(const NodoArbol* /*nodo*/) {}
     // The node is to be scrolled into view.

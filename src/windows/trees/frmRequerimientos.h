@@ -1,25 +1,79 @@
 #pragma once
 
+#include "core/trees/edicion_requerimientos.h"
 #include "windows/trees/ventana_diseno.h"
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+
+class QLabel;
+class QMenu;
+class QPlainTextEdit;
+class QPushButton;
 
 namespace vadro {
 
-// The design window of the requirements tree. The working copy and its editing come with the
-// window's own content.
+class MarcoNivel;
+class ModeloArbol;
+class VistaArbol;
+
+// The design window of the requirements tree: the working tree with its clipboard, the
+// description of the node in hand, the four level selectors and the door to the function
+// editor. The model changes only when the tree is written back.
 class frmRequerimientos : public VentanaDiseno {
     Q_OBJECT
 public:
     explicit frmRequerimientos(QWidget* padre = nullptr);
+    ~frmRequerimientos() override;
 
-    // Accepts the window: its step label follows the content, the model takes the working
-    // copy and the window unloads.
+    // Accepts the window: its step label by the node count, the model takes the tree, the
+    // window unloads.
     void cmdAceptar_Click() override;
-    // Writes the working copy into the model, the window staying open.
+    // Writes the tree into the model, the window staying open.
     void LlamaLlenarRequerimientos();
+    // Likewise, giving the first step label its normal look back when the tree has a node.
+    void GuardarArbol();
+    void AjustarControles() override;
+    void ActualizarCombos(NodoArbol* nodo);
+    void EliminarSubcriteriosDelNodo(NodoArbol* nodo);
+
+    EdicionRequerimientos& Edicion() { return *ed_; }
+    bool Aceptado = false;
+
+    VistaArbol* tvwArbol;
+    QWidget* fmeDescripcion;
+    QLabel* lblDescripcion;
+    QPlainTextEdit* txtDescripcion;
+    std::array<MarcoNivel*, 4> fmeNodos{};
+    QPushButton* cmdFuncion;
 
 protected:
-    // Whatever way the window goes, its step label follows what the model holds.
-    void AlDescargar() override;
+    void ModeloCambiado(ParteModelo parte) override;
+    void PermisoSubcriterios(bool permitidos) override;
+    bool PuedeDescargarse() override;
+    void showEvent(QShowEvent* evento) override;
+
+private:
+    void CrearControles();
+    void ConectarArbol();
+    void ConectarSelector(int i);
+    // Runs an operation of the logic, then shows its outcome, even when it fails halfway.
+    void Operar(const std::function<void()>& operacion);
+    void Refrescar();
+    void MostrarMenu(NodoArbol* nodo, const QPoint& global);
+    void ConectarMenu(QMenu& menu);
+    void EditarEtiqueta();
+    void EnfocarArbol();
+    void cmdFuncion_Click();
+    // The one door to the function editor: it edits the record's function for the named
+    // indicator.
+    void AbrirEditorFuncion(NodoEdicion& nodo, const std::string& indicador);
+
+    std::unique_ptr<EdicionRequerimientos> ed_;
+    std::unique_ptr<ModeloArbol> modelo_;
+    bool menuConectado_ = false;
 };
 
 } // namespace vadro

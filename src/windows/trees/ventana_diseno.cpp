@@ -5,7 +5,9 @@
 #include "windows/core/texto.h"
 
 #include <QHBoxLayout>
+#include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -14,10 +16,21 @@ namespace vadro {
 VentanaDiseno::VentanaDiseno(Hija hija, const char* titulo, QWidget* padre)
     : VentanaHija(hija, titulo, padre) {
     cmdAceptar = Boton(this, "cmdAceptar", "Aceptar");
-    auto* columna = new QVBoxLayout(this);
-    columna->addStretch();
-    columna->addLayout(FilaBotones({cmdAceptar}));
+    columna_ = new QVBoxLayout(this);
+    columna_->addStretch();
+    columna_->addLayout(FilaBotones({cmdAceptar}));
     Conectar(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
+}
+
+void VentanaDiseno::PonerContenido(QWidget* contenido) {
+    delete columna_->takeAt(0); // the stretch that stood for the content
+    columna_->insertWidget(0, contenido, 1);
+}
+
+QMenu* VentanaDiseno::MenuEmergente(const char* nombre) const {
+    // Inside the client area the top-level window is the main window, which owns the menus.
+    const QWidget* principal = window();
+    return principal != this ? principal->findChild<QMenu*>(Q(nombre)) : nullptr;
 }
 
 void VentanaDiseno::Colocar(QMdiSubWindow& marco, const QRect& cliente) {

@@ -2,7 +2,9 @@
 
 #include "windows/shell/ventana_hija.h"
 
+class QMenu;
 class QPushButton;
+class QVBoxLayout;
 
 namespace vadro {
 
@@ -18,6 +20,16 @@ public:
 
     void Colocar(QMdiSubWindow& marco, const QRect& cliente) override;
     bool OcupaCliente() const override { return false; }
+
+protected:
+    // The window's content, above the row of its button.
+    void PonerContenido(QWidget* contenido);
+    // The popup menu of that name that the main window owns, or none while the window stands
+    // alone.
+    QMenu* MenuEmergente(const char* nombre) const;
+
+private:
+    QVBoxLayout* columna_;
 };
 
 } // namespace vadro

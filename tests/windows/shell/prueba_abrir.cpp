@@ -124,6 +124,11 @@ TEST_F(Abrir, TheSecondOpeningReplacesTheDesignWindowsAndFollowsThePermission) {
     const std::string otra = ModeloEnDisco("b.vdm", conSub);
     mensajes.Esperar("VADRO PROGRAMADOR",
                      "Desea guardar los cambios realizados en el modelo actual?", Respuesta::No);
+    // The components window asks before it goes, even unedited.
+    mensajes.Esperar("VADRO PROGRAMADOR: cerrar componentes",
+                     "Está seguro que quiere descartar los cambios realizados en el árbol de "
+                     "componentes?",
+                     Respuesta::Si);
     AbrirDesdeBarra(otra);
     EXPECT_EQ(Hijas(), Strings{"frmEjes"});
     EXPECT_TRUE(principal.mnuPermitirSubcriterios->isChecked());

@@ -1,5 +1,7 @@
 #include "ventana_principal.h"
 
+#include "windows/trees/frmComponentes.h"
+#include "windows/trees/frmEtapas.h"
 #include "windows/trees/frmRequerimientos.h"
 
 #include <QCheckBox>
@@ -146,8 +148,8 @@ TEST_F(LineaPosiciones, AWalkFromANewModelToTheEndOfTheLineAndBack) {
 
 TEST_F(LineaPosiciones, RetrocederFromANewModelLeavesForTheEmptyDesk) {
     NuevoModelo();
-    sesion().modelo.NumRequerimientos = 2;
     PulsarEtiqueta(1);
+    sesion().modelo.NumRequerimientos = 2;
     ASSERT_EQ(Hijas(), (Strings{"frmEjes", "frmRequerimientos"}));
     const Modelo antes = sesion().modelo;
 
@@ -232,8 +234,9 @@ TEST_F(LineaPosiciones, LeavingEjesForwardsAcceptsOnlyTheDesignWindowsStillOpen)
     // The requirements window is closed by its frame: it is no longer loaded.
     principal.Abierta<frmRequerimientos>()->Descargar();
     sesion().modelo.NumRequerimientos = 1;
-    sesion().modelo.NumComponentes = 2;
-    sesion().modelo.NumEtapas = 3;
+    // The two windows still open hold content, which their acceptance writes to the model.
+    principal.Abierta<frmComponentes>()->Edicion().AñadirComponente("Bomba");
+    principal.Abierta<frmEtapas>()->Edicion().AgregarEtapa("Obra");
     principal.cmdContinuar->click();
     EsperarPendiente(1);
     EsperarNormal(2);

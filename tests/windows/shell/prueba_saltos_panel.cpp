@@ -1,5 +1,6 @@
 #include "ventana_principal.h"
 
+#include "windows/trees/frmComponentes.h"
 #include "windows/trees/frmRequerimientos.h"
 
 #include <QMenu>
@@ -58,7 +59,8 @@ TEST_F(SaltosPanel, ResumenFromEjesAcceptsTheDesignWindows) {
     principal.cmdRetroceder->click();
     PulsarEtiqueta(2);
     PulsarEtiqueta(3);
-    sesion().modelo.NumComponentes = 4;
+    // The components window holds one component, which its acceptance writes to the model.
+    principal.Abierta<frmComponentes>()->Edicion().AñadirComponente("Bomba");
     PulsarEtiqueta(4);
     EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
     EXPECT_EQ(Estado(), "Posición: resumen");

@@ -1,0 +1,242 @@
+#include "ventana_arbol.h"
+
+#include "core/shell/herramientas.h"
+#include "soporte/datos.h"
+#include "soporte/modelo_sano.h"
+#include "soporte/volcado_ventana.h"
+#include "windows/trees/frmRequerimientos.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include <sstream>
+
+namespace vadro {
+namespace {
+
+using namespace pruebas;
+using Requerimientos = VentanaArbol;
+using Strings = std::vector<std::string>;
+
+const std::string kEliminarNodo = "VADRO PROGRAMADOR: eliminar nodo";
+const std::string kPreguntaEliminar =
+    "El elemento selecionado tiene uno o más subnodos. Está seguro que quiere eliminarlo?";
+
+void Teclear(QLineEdit* campo, const char* texto) {
+    campo->selectAll();
+    VentanaArbol::Teclas(campo, QString::fromUtf8(texto));
+}
+
+// A model built by hand through the three windows, accepted, saved, and read back as plain text.
+TEST_F(Requerimientos, AModelBuiltThroughTheWindowsIsWhatTheFileHolds) {
+    NuevoModelo();
+    sesion().modelo.ConSubcriterios = true; // the permission, as its menu entry gives it
+    QWidget* r = AbrirPaso(1, "frmRequerimientos");
+    EXPECT_EQ(Mostrado(r), "Modelo ");
+
+    Flecha(r, 1, true);
+    Renombrar(r, "Seguridad");
+    Elegir(*MenuSobre(r, "R 2", "mnuArbolR"), "mnuAñadirC");
+    Renombrar(r, "Estructura");
+    Elegir(*MenuSobre(r, "C 3", "mnuArbolR"), "mnuAñadirI");
+    Renombrar(r, "Resistencia");
+    Teclas(Hijo<QPlainTextEdit>(*r, "txtDescripcion"), QStringLiteral("MPa a compresión"));
+    EXPECT_EQ(Mostrado(r), "Modelo [Seguridad[Estructura[Resistencia]]]");
+    auto* cmdFuncion = Hijo<QPushButton>(*r, "cmdFuncion");
+    ASSERT_TRUE(cmdFuncion->isEnabled());
+    modales.Esperar(QStringLiteral("frmFuncionValor"), [](QDialog& editor) {
+        EXPECT_EQ(editor.windowTitle().toStdString(), "Resistencia");
+        editor.accept();
+    });
+    cmdFuncion->click();
+    Flecha(r, 4, true); // a second indicator beside the first
+    Teclear(Marco(r, 4)->cbbNodos->lineEdit(), "Flecha");
+    EXPECT_EQ(Marco(r, 4)->lblNumNodos->text().toStdString(), "2");
+
+    Elegir(*MenuSobre(r, "M", "mnuArbolR"), "mnuAñadirR");
+    Renombrar(r, "Coste");
+    Elegir(*MenuSobre(r, "R 6", "mnuArbolR"), "mnuAñadirC");
+    Renombrar(r, "Inversión");
+    Elegir(*MenuSobre(r, "C 7", "mnuArbolR"), "mnuAñadirS");
+    Renombrar(r, "Obra");
+    Elegir(*MenuSobre(r, "S 8", "mnuArbolR"), "mnuAñadirI");
+    Renombrar(r, "Precio");
+    Elegir(*MenuSobre(r, "R 6", "mnuArbolR"), "mnuAñadirC");
+    Renombrar(r, "Mantenimiento");
+    Elegir(*MenuSobre(r, "C 10", "mnuArbolR"), "mnuAñadirI");
+    Renombrar(r, "Anual");
+    EXPECT_EQ(Mostrado(r), "Modelo [Seguridad[Estructura[Resistencia,Flecha]],Coste[Inversión["
+                           "Obra[Precio]],Mantenimiento[Anual]]]");
+    Hijo<QPushButton>(*r, "cmdAceptar")->click();
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes"}));
+    EsperarNormal(1);
+
+    QWidget* c = AbrirPaso(2, "frmComponentes");
+    QMenu* menu = MenuSobre(c, "", "mnuArbolC");
+    EXPECT_EQ(Entradas(*menu), "mnuAñadirComp ~mnuPegarC");
+    Elegir(*menu, "mnuAñadirComp");
+    Renombrar(c, "Bombas");
+    Elegir(*MenuSobre(c, "Co 1", "mnuArbolC"), "mnuAñadirSc");
+    Renombrar(c, "Eléctrica");
+    Flecha(c, 2, true);
+    Teclear(Marco(c, 2)->cbbNodos->lineEdit(), "Diésel");
+    EXPECT_EQ(Mostrado(c), "Bombas[Eléctrica,Diésel]");
+    Hijo<QPushButton>(*c, "cmdAceptar")->click();
+    EsperarNormal(2);
+
+    QWidget* e = AbrirPaso(3, "frmEtapas");
+    for (const char* etapa : {"Diseño", "Obra", " obra ", "Uso"}) {
+        modales.Esperar(QStringLiteral("frmNuevaEtapa"), [etapa](QDialog& d) {
+            auto* campo = Hijo<QLineEdit>(d, "txtDenominacion");
+            Teclas(campo, QString::fromUtf8(etapa));
+            QTest::keyClick(campo, Qt::Key_Return);
+            if (d.isVisible()) { // refused: the dialog stays until cancelled
+                Hijo<QPushButton>(d, "cmdCancelar")->click();
+            }
+        });
+        if (std::string(etapa) == " obra ") {
+            mensajes.Esperar("VADRO PROGRAMADOR: error",
+                             "No es posible repetir etapas del ciclo de vida.");
+        }
+        Hijo<QPushButton>(*e, "cmdAgregar")->click();
+    }
+    Hijo<QPushButton>(*e, "cmdAceptar")->click();
+    EsperarNormal(3);
+
+    sesion().modelo.Archivo = Ruta("propio.vdm");
+    PulsarBoton("Guardar");
+    std::istringstream entrada;
+    std::ostringstream texto, error;
+    ASSERT_EQ(EjecutarHerramientas({"texto", Ruta("propio.vdm")}, entrada, texto, error), 0)
+        << error.str();
+    EXPECT_EQ(texto.str(), Datos("arboles/modelo_propio.txt", texto.str()));
+}
+
+TEST_F(Requerimientos, TheMenuFollowsTheLevelAndPasteFollowsTheClipboard) {
+    NuevoModelo();
+    sesion().modelo = ModeloCon({Requerimiento(
+        "A", {Criterio("C1", {Indicador("i1")}),
+              Criterio("C2", {}, {Subcriterio("S", {Indicador("j")})}), Criterio("C3", {})})});
+    QWidget* r = AbrirPaso(1, "frmRequerimientos");
+    const std::string comun = "mnuCopiar ~mnuPegar | mnuRenombrar";
+    const std::string insertar = "mnuInsertarAntes mnuInsertarDespues mnuEliminar | ";
+    const std::pair<std::string, std::string> casos[] = {
+        {"", "mnuAñadirR ~mnuPegar"},
+        {"M", "mnuAñadirR | " + comun},
+        {"R1", "mnuAñadirC | " + insertar + comun},
+        {"C1R1", "mnuAñadirI | " + insertar + comun},
+        {"C2R1", "mnuAñadirS | " + insertar + comun},
+        {"C3R1", "mnuAñadirS mnuAñadirI | " + insertar + comun},
+        {"S1C2R1", "mnuAñadirI | " + insertar + comun},
+        {"I1C1R1", insertar + comun},
+    };
+    for (const auto& [clave, entradas] : casos) {
+        QMenu* menu = MenuSobre(r, clave, "mnuArbolR");
+        EXPECT_EQ(Entradas(*menu), entradas) << clave;
+        menu->hide();
+    }
+    for (const auto& [clave, titulo] : {std::pair{"R1", "&Eliminar requerimiento"},
+                                        {"C1R1", "&Eliminar criterio"},
+                                        {"S1C2R1", "&Eliminar subcriterio"},
+                                        {"I1C1R1", "&Eliminar indicador"}}) {
+        QMenu* menu = MenuSobre(r, clave, "mnuArbolR");
+        EXPECT_EQ(Hijo<QAction>(*menu, "mnuEliminar")->text().toStdString(), titulo);
+        menu->hide();
+    }
+
+    Clic(r, "I1C1R1");
+    QTest::keyClick(Arbol(r), Qt::Key_C, Qt::ControlModifier);
+    for (const auto& [clave, permitido] : {std::pair{"M", false},
+                                           {"R1", false},
+                                           {"C2R1", false},
+                                           {"C1R1", true},
+                                           {"C3R1", true},
+                                           {"S1C2R1", true}}) {
+        QMenu* menu = MenuSobre(r, clave, "mnuArbolR");
+        EXPECT_EQ(Hijo<QAction>(*menu, "mnuPegar")->isEnabled(), permitido) << clave;
+        menu->hide();
+    }
+    Elegir(*MenuSobre(r, "S1C2R1", "mnuArbolR"), "mnuPegar");
+    EXPECT_EQ(Mostrado(r), "Modelo [A[C1[i1],C2[S[j,i1]],C3]]");
+}
+
+TEST_F(Requerimientos, DraggingACriterionToAnotherRequirementAsksAndLosesTheWeights) {
+    NuevoModelo();
+    sesion().modelo = ModeloCorrecto();
+    QWidget* r = AbrirPaso(1, "frmRequerimientos");
+    const std::string pregunta =
+        "En caso de haber sido introducidas, se borrarán las matrices de pesos correspondientes "
+        "a los nodos:\n- Económico\n- Social\n\nEstá usted seguro de querer mover el elemento "
+        "seleccionado?";
+    mensajes.Esperar("VADRO PROGRAMADOR: mover nodo", pregunta, Respuesta::No);
+    Arrastrar(r, "C1R1", "R2");
+    const std::string antes = "Modelo [Económico[Inversión[Coste,Plazo],Explotación[Coste,Plazo]],"
+                              "Social[Empleo[Coste,Plazo],Seguridad[Coste,Plazo]]]";
+    EXPECT_EQ(Mostrado(r), antes);
+    Arrastrar(r, "I1C1R1", "R2"); // no highlight on a requirement: nothing is asked
+    EXPECT_EQ(Mostrado(r), antes);
+    EXPECT_EQ(Arbol(r)->viewport()->cursor().shape(), Qt::ArrowCursor) << "the drag icon goes";
+
+    mensajes.Esperar("VADRO PROGRAMADOR: mover nodo", pregunta, Respuesta::Si);
+    Arrastrar(r, "C1R1", "R2");
+    EXPECT_EQ(Mostrado(r), "Modelo [Económico[Explotación[Coste,Plazo]],Social[Empleo[Coste,"
+                           "Plazo],Seguridad[Coste,Plazo],Inversión[Coste,Plazo]]]");
+    Hijo<QPushButton>(*r, "cmdAceptar")->click();
+    const Modelo& m = sesion().modelo;
+    ASSERT_EQ(m.Requerimientos(2).NumCriterios.Cuenta(), 3);
+    for (int c = 1; c <= 3; ++c) {
+        EXPECT_TRUE(m.Requerimientos(2).Criterios(c).Peso.EsVacio()) << c;
+        EXPECT_EQ(m.Requerimientos(2).Criterios(c).Saaty.Cota(), 3) << c;
+    }
+    EXPECT_TRUE(m.Requerimientos(1).Criterios(1).Peso.EsVacio()) << "the old set loses them too";
+    EXPECT_FALSE(m.Requerimientos(2).Criterios(3).Indicadores(1).Peso.EsVacio())
+        << "the moved criterion's own indicators keep theirs";
+}
+
+TEST_F(Requerimientos, TheSelectorsDownArrowRemovesTheNodeItShowsAndTypingRenames) {
+    NuevoModelo();
+    sesion().modelo = ModeloCorrecto();
+    QWidget* r = AbrirPaso(1, "frmRequerimientos");
+    Clic(r, "C1R2");
+    EXPECT_EQ(Marco(r, 2)->title().toStdString(), "Criterios del requerimiento 2");
+    EXPECT_EQ(Marco(r, 2)->cbbNodos->currentText().toStdString(), "Empleo");
+    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::Si);
+    Flecha(r, 2, false);
+    EXPECT_EQ(Mostrado(r), "Modelo [Económico[Inversión[Coste,Plazo],Explotación[Coste,Plazo]],"
+                           "Social[Seguridad[Coste,Plazo]]]");
+    EXPECT_EQ(Marco(r, 2)->lblNumNodos->text().toStdString(), "1");
+    EXPECT_EQ(Marco(r, 2)->cbbNodos->currentText().toStdString(), "Seguridad");
+    Teclear(Marco(r, 1)->cbbNodos->lineEdit(), "Sociedad");
+    EXPECT_EQ(Mostrado(r), "Modelo [Económico[Inversión[Coste,Plazo],Explotación[Coste,Plazo]],"
+                           "Sociedad[Seguridad[Coste,Plazo]]]");
+    QTest::keyClick(Arbol(r), Qt::Key_Down);
+    EXPECT_EQ(Marco(r, 4)->title().toStdString(), "Indicadores del criterio 1");
+    EXPECT_FALSE(Hijo<QPushButton>(*r, "cmdFuncion")->isEnabled()) << "a criterion is in hand";
+    QTest::keyClick(Arbol(r), Qt::Key_Down);
+    EXPECT_TRUE(Hijo<QPushButton>(*r, "cmdFuncion")->isEnabled()) << "an indicator is in hand";
+    QTest::keyClick(Arbol(r), Qt::Key_Delete); // a leaf goes without a question
+    EXPECT_EQ(Mostrado(r), "Modelo [Económico[Inversión[Coste,Plazo],Explotación[Coste,Plazo]],"
+                           "Sociedad[Seguridad[Plazo]]]");
+    EXPECT_EQ(Marco(r, 4)->cbbNodos->currentText().toStdString(), "Plazo");
+}
+
+TEST_F(Requerimientos, ClosingDiscardsWithoutAQuestionAndTheDumpShowsTheWindow) {
+    NuevoModelo();
+    sesion().modelo = ModeloCorrecto();
+    QWidget* r = AbrirPaso(1, "frmRequerimientos");
+    Clic(r, "I2C1R1");
+    CompararVolcado(*r, "frmRequerimientos");
+    const Modelo antes = sesion().modelo;
+    Elegir(*MenuSobre(r, "M", "mnuArbolR"), "mnuAñadirR");
+    principal.Abierta<frmRequerimientos>()->Descargar();
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes"}));
+    EXPECT_EQ(sesion().modelo, antes) << "the working copy is gone";
+    EsperarNormal(1);
+}
+
+} // namespace
+} // namespace vadro
