@@ -265,11 +265,12 @@ void frmFuncionValor::MostrarRejilla() {
         grdIntervalos->setCurrentIndex(actual);
     }
     if (!editor.EntradaAbierta && txtValor->isVisible()) {
-        const bool tenia = txtValor->hasFocus();
-        txtValor->hide();
-        if (tenia) {
+        // The grid takes the focus before the input goes: a focused input that is hidden
+        // hands the focus on, and the grid would take that as a move to the next cell.
+        if (txtValor->hasFocus()) {
             grdIntervalos->setFocus();
         }
+        txtValor->hide();
     }
 }
 
@@ -299,7 +300,12 @@ bool frmFuncionValor::eventFilter(QObject* objeto, QEvent* evento) {
             Manejar([&] { editor.ClickEtiquetaRef(objeto == lblMaxRef); });
         }
     });
-    return usado || QDialog::eventFilter(objeto, evento);
+    if (usado) {
+        // A used key stops here: it must not reach the grid or the dialog's default button.
+        evento->accept();
+        return true;
+    }
+    return QDialog::eventFilter(objeto, evento);
 }
 
 bool frmFuncionValor::FiltrarEntrada(Campo campo, QEvent* evento) {
