@@ -42,14 +42,15 @@ std::string FormatoIntervalo(const std::string& inicial, const std::string& fina
     if (inicial.empty()) {
         texto = "(?,";
     } else {
-        texto = (SignoIntervalo(ValorLibre(inicial)) == "=" ? "[" : "(") +
-                TextoNumeroIntervalo(ValorLibre(inicial)) + ",";
+        texto += SignoIntervalo(ValorLibre(inicial)) == "=" ? '[' : '(';
+        texto += TextoNumeroIntervalo(ValorLibre(inicial));
+        texto += ',';
     }
     if (final_.empty()) {
         texto += "?)";
     } else {
-        texto += TextoNumeroIntervalo(ValorLibre(final_)) +
-                 (SignoIntervalo(ValorLibre(final_)) == "=" ? "]" : ")");
+        texto += TextoNumeroIntervalo(ValorLibre(final_));
+        texto += SignoIntervalo(ValorLibre(final_)) == "=" ? ']' : ')';
     }
     return texto;
 }

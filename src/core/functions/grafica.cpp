@@ -70,7 +70,12 @@ std::string Numero(float valor) {
 }
 
 std::string Punto(float x, float y) {
-    return "(" + Numero(x) + "," + Numero(y) + ")";
+    std::string texto = "(";
+    texto += Numero(x);
+    texto += ',';
+    texto += Numero(y);
+    texto += ')';
+    return texto;
 }
 
 std::string Hexadecimal(Color color) {
