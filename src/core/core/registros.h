@@ -47,8 +47,9 @@ struct Puntuacion {
     bool operator==(const Puntuacion&) const = default;
 };
 
-// The function of an optional indicator: only the kinds none, continuous and step.
-struct FuncionOptativo {
+// What every value function holds, whether it is an indicator's or an optional indicator's:
+// one editor serves both through it.
+struct FuncionComun {
     std::string Nombre;
     std::string Clave;
     int32_t Tipo = FuncionNinguna;
@@ -61,6 +62,11 @@ struct FuncionOptativo {
     ValorLibre K;
     ValorLibre P;
     Arreglo<Escalon> Escalones;
+    bool operator==(const FuncionComun&) const = default;
+};
+
+// The function of an optional indicator: only the kinds none, continuous and step.
+struct FuncionOptativo : FuncionComun {
     bool operator==(const FuncionOptativo&) const = default;
 };
 
@@ -70,21 +76,9 @@ struct IndicadorOptativo {
     bool operator==(const IndicadorOptativo&) const = default;
 };
 
-struct FuncionValor {
-    std::string Nombre;
-    std::string Clave;
-    int32_t Tipo = FuncionNinguna;
-    std::string Unidades;
-    ValorLibre XMin;
-    ValorLibre XMax;
-    ValorLibre RMin;
-    ValorLibre RMax;
-    ValorLibre C;
-    ValorLibre K;
-    ValorLibre P;
+struct FuncionValor : FuncionComun {
     int16_t OptativoSeleccionado = 0;
     Arreglo<IndicadorOptativo> Optativos;
-    Arreglo<Escalon> Escalones;
     Arreglo<Puntuacion> Puntuaciones;
     bool operator==(const FuncionValor&) const = default;
 };

@@ -54,6 +54,8 @@ struct Sesion {
     std::vector<std::array<int16_t, 5>> FilasPonderacion;
     Arreglo<NodoEdicion> NodosEdicion;
     int16_t NodoEdicionActual = 0;
+    // Whether the notice before the first function drawing shows; for this session only.
+    bool MostrarAvisoFuncionValor = true;
 
     Servicios servicios;
 };

@@ -102,18 +102,7 @@ Intervalo ValorIntervalo(const Escalon& escalon) {
 
 FuncionValor ConvertirFuncion(const FuncionOptativo& funcion) {
     FuncionValor valor;
-    valor.Nombre = funcion.Nombre;
-    valor.Clave = funcion.Clave;
-    valor.Tipo = funcion.Tipo;
-    valor.Unidades = funcion.Unidades;
-    valor.XMin = funcion.XMin;
-    valor.XMax = funcion.XMax;
-    valor.RMin = funcion.RMin;
-    valor.RMax = funcion.RMax;
-    valor.C = funcion.C;
-    valor.K = funcion.K;
-    valor.P = funcion.P;
-    valor.Escalones = funcion.Escalones;
+    static_cast<FuncionComun&>(valor) = funcion;
     return valor;
 }
 

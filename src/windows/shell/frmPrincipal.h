@@ -97,9 +97,6 @@ public:
     // Unloads a window if it is open.
     void Descargar(Hija hija);
 
-    // Whether the notice before the first function drawing shows; for this session only.
-    bool MostrarAvisoFuncionValor = true;
-
     QMdiArea* mdiCliente;
     QWidget* pctFondo;
     QFrame* pctPrincipal;

@@ -7,6 +7,7 @@
 #include "windows/core/controles.h"
 #include "windows/core/modal.h"
 #include "windows/core/texto.h"
+#include "windows/functions/frmFuncionValor.h"
 #include "windows/trees/modelo_arbol.h"
 #include "windows/trees/selector_nivel.h"
 #include "windows/trees/vista_arbol.h"
@@ -246,18 +247,8 @@ void frmRequerimientos::cmdFuncion_Click() {
     std::optional<std::string> indicador;
     Operar([&] { indicador = ed_->ClicFuncion(); });
     if (indicador) {
-        Sesion& sesion = SesionActual();
-        AbrirEditorFuncion(sesion.NodosEdicion(sesion.NodoEdicionActual), *indicador);
+        EditarFuncion(SesionActual().NodoEdicionActual, *indicador, this);
     }
-}
-
-// The seam of the function editor. It edits `nodo.Funcion` for the named indicator; until its
-// window stands here, an empty dialog under its name takes its place.
-void frmRequerimientos::AbrirEditorFuncion(NodoEdicion& /*nodo*/, const std::string& indicador) {
-    QDialog editor(this);
-    editor.setObjectName(Q("frmFuncionValor"));
-    editor.setWindowTitle(Q(indicador));
-    MostrarModal(editor);
 }
 
 // ---- writing back and closing ----

@@ -67,9 +67,6 @@ private:
     void EditarEtiqueta();
     void EnfocarArbol();
     void cmdFuncion_Click();
-    // The one door to the function editor: it edits the record's function for the named
-    // indicator.
-    void AbrirEditorFuncion(NodoEdicion& nodo, const std::string& indicador);
 
     std::unique_ptr<EdicionRequerimientos> ed_;
     std::unique_ptr<ModeloArbol> modelo_;

@@ -48,9 +48,15 @@ TEST_F(Requerimientos, AModelBuiltThroughTheWindowsIsWhatTheFileHolds) {
     EXPECT_EQ(Mostrado(r), "Modelo [Seguridad[Estructura[Resistencia]]]");
     auto* cmdFuncion = Hijo<QPushButton>(*r, "cmdFuncion");
     ASSERT_TRUE(cmdFuncion->isEnabled());
+    sesion().MostrarAvisoFuncionValor = false; // the notice before the first drawing
+    mensajes.Esperar("VADRO",
+                     "Se perderán los últimos valores introducidos. Está seguro que quiere "
+                     "cerrar la ventana?",
+                     Respuesta::Si);
     modales.Esperar(QStringLiteral("frmFuncionValor"), [](QDialog& editor) {
-        EXPECT_EQ(editor.windowTitle().toStdString(), "Resistencia");
-        editor.accept();
+        EXPECT_EQ(editor.windowTitle().toStdString(),
+                  "Definición de la función de valor - [Resistencia]");
+        Hijo<QPushButton>(editor, "cmdCancelar")->click();
     });
     cmdFuncion->click();
     Flecha(r, 4, true); // a second indicator beside the first

@@ -1,0 +1,840 @@
+#include "core/functions/editor_funcion.h"
+#include "soporte/modelo_sano.h"
+#include "soporte/prueba_sesion.h"
+
+#include <gtest/gtest.h>
+
+namespace vadro {
+namespace {
+
+const std::string kTituloError = "VADRO PROGRAMADOR: error";
+const std::string kTituloFuncion = "VADRO: función de valor";
+const std::string kTituloSuperior = "VADRO: error en límite superior";
+const std::string kTituloInferior = "VADRO: error en límite inferior";
+const std::string kTituloLimiteSup = "VADRO PROGRAMADOR: límite superior";
+const std::string kCorrijalo = "Corríjalo o deje vacío su valor.";
+
+class Editor : public pruebas::PruebaSesion {
+protected:
+    Editor() {
+        editor.MostrarAviso = [this] { ++avisos; };
+        editor.ConfirmarReduccion = [this] {
+            ++confirmaciones;
+            return confirmar;
+        };
+    }
+    // The inputs as a loaded window leaves them, without running their handlers.
+    void Limites(const std::string& min, const std::string& max, const std::string& minRef,
+                 const std::string& maxRef) {
+        editor.Texto(Campo::Min) = min;
+        editor.Texto(Campo::Max) = max;
+        editor.Texto(Campo::MinRef) = minRef;
+        editor.Texto(Campo::MaxRef) = maxRef;
+    }
+    // A step grid of these rows, the kind "Escalón".
+    void Escalones(std::vector<FilaIntervalo> filas) {
+        editor.Tipo = kTipoEscalon;
+        editor.Filas = std::move(filas);
+        editor.Intervalos = static_cast<int>(editor.Filas.size());
+        editor.RejillaHabilitada = true;
+    }
+    // Types a text into a cell through its floating input and leaves the cell.
+    void EscribirCelda(int fila, int columna, const std::string& texto) {
+        editor.FilaActual = fila;
+        editor.ColumnaActual = columna;
+        ASSERT_TRUE(editor.AbrirCelda());
+        editor.SalirCelda(texto);
+    }
+
+    EditorFuncion editor;
+    int avisos = 0;
+    int confirmaciones = 0;
+    bool confirmar = true;
+};
+
+TEST_F(Editor, TheBoundsAndStepOfCFollowTheReferenceLimits) {
+    struct Caso {
+        const char* minRef;
+        const char* maxRef;
+        const char* C;
+        double inferior;
+        double superior;
+        double paso;
+        const char* leyenda;
+        const char* CDespues;
+    };
+    const Caso casos[] = {
+        {"", "", "50", 0, 100, 1, "Pto. inflexión en abcisa (0 < C < 100)", "50"},
+        {"", "7", "150", 0, 100, 1, "Pto. inflexión en abcisa (0 < C < 100)", "100"},
+        {"0", "0.5", "0.25", 0, 0.5, 0.01, "Pto. inflexión en abcisa (0 < C < 0.5)", "0.25"},
+        {"0", "0.5", "3", 0, 0.5, 0.01, "Pto. inflexión en abcisa (0 < C < 0.5)", "0.5"},
+        {"20", "100", "10", 20, 100, 0.8, "Pto. inflexión en abcisa (20 < C < 100)", "20"},
+        {"100", "0", "150", 0, 100, 1, "Pto. inflexión en abcisa (0 < C < 100)", "100"},
+        {"100", "0", "-5", 0, 100, 1, "Pto. inflexión en abcisa (0 < C < 100)", "0"},
+        {"5", "5", "9", 5, 5, 0.01, "Pto. inflexión en abcisa (5 < C < 5)", "5"},
+        {"20", "100", "", 20, 100, 0.8, "Pto. inflexión en abcisa (20 < C < 100)", ""},
+    };
+    sesion().MostrarAvisoFuncionValor = false;
+    for (const Caso& caso : casos) {
+        Limites("", "", caso.minRef, caso.maxRef);
+        editor.Texto(Campo::C) = caso.C;
+        editor.ActualizarLimites();
+        const std::string donde = std::string(caso.minRef) + "|" + caso.maxRef + "|" + caso.C;
+        EXPECT_EQ(editor.CInferior, caso.inferior) << donde;
+        EXPECT_EQ(editor.CSuperior, caso.superior) << donde;
+        EXPECT_DOUBLE_EQ(editor.PasoC, caso.paso) << donde;
+        EXPECT_EQ(editor.lblLimitesC, caso.leyenda) << donde;
+        EXPECT_EQ(editor.Texto(Campo::C), caso.CDespues) << donde;
+    }
+    EXPECT_EQ(editor.lblLimitesK, "Pto. inflexión en ordenada (0 < K < 1)");
+    EXPECT_EQ(editor.lblLimitesP, "Factor de forma (0 < P < infinito)");
+}
+
+TEST_F(Editor, TheShapeParametersTakeOnlyNumbersWithinTheirBounds) {
+    sesion().MostrarAvisoFuncionValor = false;
+    Limites("", "", "0", "10");
+    editor.ActualizarLimites();
+    struct Caso {
+        Campo campo;
+        const char* texto;
+        bool mensaje;
+        const char* queda;
+    };
+    const Caso casos[] = {
+        {Campo::K, "0.5", false, "0.5"},  {Campo::K, "0.5x", true, "0.50"},
+        {Campo::K, "", true, "0.50"},     {Campo::K, "3", false, "1"},
+        {Campo::K, "-1", false, "0"},     {Campo::C, "11", false, "10"},
+        {Campo::C, "abc", true, "10.00"}, {Campo::P, "250", false, "250"},
+        {Campo::P, "-2", false, "0"},     {Campo::P, "1,5", false, "1,5"},
+    };
+    for (const Caso& caso : casos) {
+        if (caso.mensaje) {
+            mensajes.Esperar(kTituloError, "Debe introducir un número.");
+        }
+        sesion().modelo.Modificado = false;
+        const int dibujos = editor.Dibujos;
+        editor.Cambio(caso.campo, caso.texto);
+        EXPECT_EQ(editor.Texto(caso.campo), caso.queda) << caso.texto;
+        EXPECT_EQ(sesion().modelo.Modificado, !caso.mensaje) << caso.texto;
+        EXPECT_EQ(editor.Dibujos - dibujos, caso.mensaje ? 0 : 1) << caso.texto;
+    }
+    EXPECT_EQ(editor.Tipo, kTipoContinua) << "the first change chose the kind";
+    EXPECT_EQ(editor.UltimoP, 1.5);
+    editor.Texto(Campo::K) = "0.001";
+    editor.Salir(Campo::K);
+    EXPECT_EQ(editor.Texto(Campo::K), "0.00") << "the precision is gone on leaving";
+    EXPECT_EQ(editor.UltimoK, 0);
+}
+
+TEST_F(Editor, UpDownStepsStopAtTheBoundsExceptAboveP) {
+    sesion().MostrarAvisoFuncionValor = false;
+    Limites("", "", "0", "0.5");
+    editor.ActualizarLimites();
+    struct Caso {
+        Campo campo;
+        const char* antes;
+        bool sube;
+        const char* despues;
+    };
+    const Caso casos[] = {
+        {Campo::C, "0.25", true, "0.26"},  {Campo::C, "0.5", true, "0.50"},
+        {Campo::C, "0.00", false, "0.00"}, {Campo::K, "0.995", true, "1.00"},
+        {Campo::K, "0.3", false, "0.29"},  {Campo::P, "0.00", false, "0.00"},
+        {Campo::P, "999", true, "999.01"},
+    };
+    for (const Caso& caso : casos) {
+        editor.Texto(caso.campo) = caso.antes;
+        caso.sube ? editor.Subir(caso.campo) : editor.Bajar(caso.campo);
+        EXPECT_EQ(editor.Texto(caso.campo), caso.despues) << caso.antes;
+    }
+    editor.Texto(Campo::K) = "0.5";
+    EXPECT_TRUE(editor.Tecla(Campo::K, 38));
+    EXPECT_EQ(editor.Texto(Campo::K), "0.51") << "the up arrow key";
+    EXPECT_TRUE(editor.Tecla(Campo::K, 40));
+    EXPECT_EQ(editor.Texto(Campo::K), "0.50");
+    EXPECT_FALSE(editor.Tecla(Campo::K, 13)) << "Enter is not the parameters' key";
+}
+
+TEST_F(Editor, AShapeButtonActsOnlyOnAUserClickAndDrawsOnce) {
+    sesion().MostrarAvisoFuncionValor = false;
+    struct Caso {
+        int indice;
+        const char* minRef;
+        const char* maxRef;
+        const char* P;
+        const char* C;
+        const char* K;
+    };
+    const Caso casos[] = {
+        {0, "0", "100", "1", "10", "0.01"}, {1, "0", "100", "0.5", "10", "0.5"},
+        {2, "0", "100", "5", "80", "0.3"},  {3, "20", "60", "3", "40", "0.5"},
+        {2, "100", "0", "5", "20", "0.3"},  {1, "", "", "0.5", "10", "0.5"},
+    };
+    for (const Caso& caso : casos) {
+        EditorFuncion e;
+        e.Texto(Campo::MinRef) = caso.minRef;
+        e.Texto(Campo::MaxRef) = caso.maxRef;
+        e.ActualizarLimites();
+        const int dibujos = e.Dibujos;
+        e.ClickForma(caso.indice);
+        EXPECT_EQ(e.Dibujos, dibujos) << "a click the user did not make";
+        e.PulsarForma(caso.indice);
+        e.ClickForma(caso.indice);
+        EXPECT_EQ(e.Dibujos, dibujos + 1) << caso.indice;
+        EXPECT_EQ(e.EtiquetaForma[static_cast<std::size_t>(caso.indice)], "Auto");
+        EXPECT_EQ(e.Tipo, kTipoContinua);
+        EXPECT_EQ(e.Texto(Campo::P), caso.P) << caso.indice;
+        EXPECT_EQ(e.Texto(Campo::C), caso.C) << caso.indice;
+        EXPECT_EQ(e.Texto(Campo::K), caso.K) << caso.indice;
+        EXPECT_EQ(e.EtiquetaParametro, (std::array<std::string, 3>{})) << "tags cleared";
+    }
+}
+
+TEST_F(Editor, TheReferenceLimitsAskAboutTheValidityLimitsWithTheirOwnWords) {
+    sesion().MostrarAvisoFuncionValor = false;
+    const std::string encima =
+        "Los valores de máxima satisfacción están por encima del límite superior. Es correcto?";
+    const std::string debajoMax =
+        "Los valores de máxima satisfacción están por debajo del límite inferior. Es correcto?";
+    const std::string debajoMin =
+        "Los valores de mínima satisfacción están por debajo del límite inferior. Es correcto?";
+    struct Caso {
+        Campo campo;
+        const char* min;
+        const char* max;
+        const char* minRef;
+        const char* maxRef;
+        const std::string* pregunta;
+        Respuesta respuesta;
+        const char* queda;
+    };
+    const Caso casos[] = {
+        {Campo::MaxRef, "", "=90", "0", "120", &encima, Respuesta::Si, "120"},
+        {Campo::MaxRef, "", "=90", "0", "120", &encima, Respuesta::No, ""},
+        {Campo::MaxRef, "", "=90", "0", "80", nullptr, Respuesta::Si, "80"},
+        {Campo::MaxRef, "", "", "0", "80.50", nullptr, Respuesta::Si, "80.5"},
+        {Campo::MaxRef, "", "", "", "07", nullptr, Respuesta::Si, "7"},
+        {Campo::MaxRef, "10", "", "100", "5", &debajoMax, Respuesta::Si, "5"},
+        {Campo::MaxRef, "10", "", "100", "5", &debajoMax, Respuesta::No, ""},
+        // Here the lower limit is read leniently: a leading symbol makes it 0.
+        {Campo::MaxRef, "=10", "", "100", "5", nullptr, Respuesta::Si, "5"},
+        {Campo::MinRef, "<10", "", "5", "100", &debajoMin, Respuesta::No, ""},
+        {Campo::MinRef, "<10", "", "15", "100", nullptr, Respuesta::Si, "15"},
+        // Decreasing: the minimum is asked about with the word of the maximum.
+        {Campo::MinRef, "", ">50", "60", "0", &encima, Respuesta::Si, "60"},
+        {Campo::MinRef, "", ">50", "40", "0", nullptr, Respuesta::Si, "40"},
+    };
+    for (const Caso& caso : casos) {
+        Limites(caso.min, caso.max, caso.minRef, caso.maxRef);
+        if (caso.pregunta != nullptr) {
+            mensajes.Esperar(kTituloLimiteSup, *caso.pregunta, caso.respuesta);
+        }
+        sesion().modelo.Modificado = false;
+        editor.Salir(caso.campo);
+        EXPECT_EQ(editor.Texto(caso.campo), caso.queda)
+            << caso.min << caso.max << caso.minRef << "|" << caso.maxRef;
+        EXPECT_TRUE(sesion().modelo.Modificado);
+    }
+    Limites("", "", "", "");
+    editor.Salir(Campo::MaxRef);
+    EXPECT_TRUE(editor.chkMaxRefUsuario) << "an empty limit is left to the user";
+    EXPECT_FALSE(editor.chkMinRefUsuario);
+}
+
+TEST_F(Editor, AReferenceLimitThatIsNoNumberGoesBackToTheLastGoodOne) {
+    sesion().MostrarAvisoFuncionValor = false;
+    editor.Texto(Campo::MinRef) = "0";
+    editor.Cambio(Campo::MaxRef, "80");
+    EXPECT_EQ(editor.UltimoRefMax, "80");
+    EXPECT_EQ(editor.RefMaxActual, 80) << "the limits were worked out again";
+    mensajes.Esperar(kTituloError, "Debe introducir un número.");
+    editor.Cambio(Campo::MaxRef, "80a");
+    EXPECT_EQ(editor.Texto(Campo::MaxRef), "80");
+    editor.Cambio(Campo::MaxRef, "");
+    EXPECT_EQ(editor.UltimoRefMax, "");
+    EXPECT_EQ(editor.RefMaxActual, 100);
+}
+
+TEST_F(Editor, LeavingAValidityLimitWarnsAboutTheReferenceLimitsItCuts) {
+    sesion().MostrarAvisoFuncionValor = false;
+    const std::string maxima =
+        "Está poniendo límite a los valores de máxima satisfacción. Verifique si es correcto.";
+    const std::string minima =
+        "Está poniendo límite a los valores de mínima satisfacción. Verifique si es correcto.";
+    struct Caso {
+        Campo campo;
+        const char* min;
+        const char* max;
+        const char* minRef;
+        const char* maxRef;
+        const char* titulo;
+        const std::string* aviso;
+    };
+    const Caso casos[] = {
+        {Campo::Max, "", "=90", "0", "100", "VADRO PROGRAMADOR: límite superior", &maxima},
+        {Campo::Max, "", "=100", "0", "100", nullptr, nullptr},
+        // Decreasing: the upper limit read leniently is 0, so the warning always comes.
+        {Campo::Max, "", ">500", "100", "0", "VADRO PROGRAMADOR: límite superior", &minima},
+        {Campo::Max, "", "=90", "", "100", nullptr, nullptr},
+        {Campo::Min, "<10", "", "0", "100", "VADRO PROGRAMADOR: límite inferior", &minima},
+        {Campo::Min, "<10", "", "0", "", "VADRO PROGRAMADOR: límite inferior", &minima},
+        {Campo::Min, "<0", "", "0", "100", nullptr, nullptr},
+        {Campo::Min, "=10", "", "100", "0", nullptr, nullptr},
+    };
+    for (const Caso& caso : casos) {
+        Limites(caso.min, caso.max, caso.minRef, caso.maxRef);
+        if (caso.aviso != nullptr) {
+            mensajes.Esperar(caso.titulo, *caso.aviso);
+        }
+        editor.Salir(caso.campo);
+        EXPECT_FALSE(editor.foco) << caso.min << caso.max;
+    }
+}
+
+TEST_F(Editor, ErrorLimitesRefusesByEmptyingTheLimit) {
+    sesion().MostrarAvisoFuncionValor = false;
+    struct Caso {
+        bool maximo;
+        const char* texto;
+        const char* titulo;
+        std::string mensaje;
+    };
+    const Caso casos[] = {
+        {true, "<5", kTituloSuperior.c_str(),
+         "El símbolo de intervalo del límite superior no puede ser abierto hacia la "
+         "izquierda.\n" +
+             kCorrijalo},
+        {true, "5", "VADRO:error en límite superior",
+         "Falta introducir el signo de intervalo en el límite superior (=, < o >)."},
+        {true, ">5a", kTituloSuperior.c_str(),
+         "El valor a introducir debe de ser un número precedido del símbolo de intervalo (=, "
+         ">)."},
+        {false, ">5", kTituloInferior.c_str(),
+         "El símbolo de intervalo del límite INFERIOR no puede ser abierto hacia la DERECHA.\n" +
+             kCorrijalo},
+        {false, "5", kTituloInferior.c_str(),
+         "Falta introducir el signo de intervalo en el límite inferior (=, <)."},
+        {false, "=", kTituloInferior.c_str(),
+         "El valor a introducir debe de ser un número precedido del símbolo de intervalo (=, "
+         "<)."},
+        {true, ">5", nullptr, ""},
+        {true, "=5", nullptr, ""},
+        {false, "<5", nullptr, ""},
+        {false, "=-5.5", nullptr, ""},
+    };
+    for (const Caso& caso : casos) {
+        const Campo campo = caso.maximo ? Campo::Max : Campo::Min;
+        editor.Texto(campo) = caso.texto;
+        if (caso.titulo != nullptr) {
+            mensajes.Esperar(caso.titulo, caso.mensaje);
+        }
+        EXPECT_EQ(editor.ErrorLimites(caso.maximo), caso.titulo != nullptr) << caso.texto;
+        EXPECT_EQ(editor.Texto(campo), caso.titulo != nullptr ? "" : caso.texto) << caso.texto;
+    }
+}
+
+TEST_F(Editor, ErrorLimitesHoldsTheLimitsToTheOuterStepsOfAStepFunction) {
+    const std::string inconsecuenteSup =
+        "Los símbolos de intervalo del límite superior y el del valor final del último intervalo "
+        "no son consecuentes\ny dejan discontinuidades o soluciones múltiples.\n" +
+        kCorrijalo;
+    const std::string inconsecuenteInf =
+        "Los símbolos de intervalo del límite inferior y el del valor inicial del primer "
+        "intervalo no son consecuentes\ny dejan discontinuidades o soluciones múltiples.\n" +
+        kCorrijalo;
+    struct Caso {
+        bool maximo;
+        const char* limite;
+        const char* celda; // the last end or the first start
+        const std::string* mensaje;
+    };
+    const std::string distintoSup =
+        "El valor del límite superior debe ser igual al valor final del último intervalo.\n" +
+        kCorrijalo;
+    const std::string distintoInf =
+        "El valor del límite inferior debe ser igual al valor inicial del primer intervalo.\n" +
+        kCorrijalo;
+    const Caso casos[] = {
+        {true, ">100", "<100", &inconsecuenteSup},
+        {true, "=100", "<100", nullptr},
+        {true, ">100", "=100", nullptr},
+        {true, "=100", "=100", &inconsecuenteSup},
+        {true, ">90", "=100", &distintoSup},
+        {true, ">100", "", nullptr},
+        {false, "<0", "=0", nullptr},
+        {false, "=0", ">0", nullptr},
+        {false, "=0", "=0", &inconsecuenteInf},
+        {false, "<0", ">0", &inconsecuenteInf},
+        {false, "<1", "=0", &distintoInf},
+        {false, "<0", "", nullptr},
+    };
+    for (const Caso& caso : casos) {
+        Escalones({{"1", "=0", "<50", "0"}, {"2", "=50", "=100", "1"}});
+        editor.Filas[caso.maximo ? 1 : 0][caso.maximo ? 2 : 1] = caso.celda;
+        const Campo campo = caso.maximo ? Campo::Max : Campo::Min;
+        editor.Texto(campo) = caso.limite;
+        if (caso.mensaje != nullptr) {
+            mensajes.Esperar(caso.maximo ? kTituloSuperior : kTituloInferior, *caso.mensaje);
+        }
+        EXPECT_EQ(editor.ErrorLimites(caso.maximo), caso.mensaje != nullptr)
+            << caso.limite << " " << caso.celda;
+    }
+    // A continuous function has no steps to compare.
+    editor.Tipo = kTipoContinua;
+    editor.Texto(Campo::Max) = ">5";
+    EXPECT_FALSE(editor.ErrorLimites(true));
+}
+
+TEST_F(Editor, LeavingAnEmptyValidityLimitChecksTheOtherAndSendsTheFocusThere) {
+    sesion().MostrarAvisoFuncionValor = false;
+    Limites(">3", "", "", "");
+    mensajes.Esperar(kTituloInferior,
+                     "El símbolo de intervalo del límite INFERIOR no puede ser abierto hacia la "
+                     "DERECHA.\n" +
+                         kCorrijalo);
+    editor.Salir(Campo::Max);
+    EXPECT_TRUE(editor.chkMaxUsuario);
+    EXPECT_EQ(editor.Texto(Campo::Min), "");
+    ASSERT_TRUE(editor.foco);
+    EXPECT_EQ(editor.foco->campo, Campo::Min);
+
+    editor.foco.reset();
+    Limites("", "100", "", "");
+    mensajes.Esperar("VADRO:error en límite superior",
+                     "Falta introducir el signo de intervalo en el límite superior (=, < o >).");
+    editor.Salir(Campo::Max);
+    ASSERT_TRUE(editor.foco);
+    EXPECT_EQ(editor.foco->campo, Campo::Max) << "back to the refused limit";
+    EXPECT_TRUE(editor.Tecla(Campo::Min, 13)) << "Enter leaves the limit";
+}
+
+TEST_F(Editor, TheAdjustBoxesDisableOrRestoreTheReferenceLimits) {
+    sesion().MostrarAvisoFuncionValor = false;
+    mensajes.Esperar("VADRO PROGRAMADOR",
+                     "Se tomará como punto de máxima satisfacción el más permisivo");
+    editor.ClickAjustar(true, false);
+    EXPECT_FALSE(editor.MaxRefHabilitado);
+    EXPECT_TRUE(editor.chkMaxRefUsuario);
+    mensajes.Esperar("VADRO PROGRAMADOR",
+                     "Se tomará como punto de mínima satisfacción el más restrictivo");
+    editor.ClickAjustar(false, false);
+    EXPECT_FALSE(editor.MinRefHabilitado);
+
+    editor.Texto(Campo::MaxRef) = "70";
+    editor.UltimoRefMax = "65";
+    editor.ClickAjustar(true, true);
+    EXPECT_TRUE(editor.MaxRefHabilitado);
+    EXPECT_EQ(editor.Texto(Campo::MaxRef), "65");
+
+    sesion().modelo.Modificado = false;
+    editor.Texto(Campo::MinRef).clear();
+    editor.chkAjustarMinRef = false;
+    editor.ClickUsuarioRef(false, false);
+    EXPECT_TRUE(editor.chkAjustarMinRef) << "an empty limit nobody may change is adjusted";
+    EXPECT_TRUE(sesion().modelo.Modificado);
+}
+
+TEST_F(Editor, NothingToDrawShowsTheNoticeUnlessSwitchedOffOrActivating) {
+    editor.Graficar();
+    EXPECT_EQ(avisos, 1);
+    editor.Activando = true;
+    editor.Graficar();
+    EXPECT_EQ(avisos, 1);
+    editor.Activando = false;
+    sesion().MostrarAvisoFuncionValor = false;
+    editor.Graficar();
+    EXPECT_EQ(avisos, 1);
+    EXPECT_EQ(ListadoGrafica(editor.grafica), "Borrar\n");
+}
+
+TEST_F(Editor, ValidarIntervaloChecksACellAgainstItsNeighboursInOrder) {
+    const std::string frontera =
+        "El valor inicial de un intervalo debe de ser el mismo que el valor final del intervalo "
+        "anterior, con el símbolo correspondiente según sea abierto o cerrado (=, > o <)\n\nEl "
+        "valor final de un intervalo debe de ser el mismo que el valor inicial del intervalo "
+        "posterior, con el símbolo correspondiente según sea abierto o cerrado (=, > o <)";
+    const std::string anterior = "El símbolo del valor inicial del intervalo (abierto o cerrado) "
+                                 "no es consecuente con el símbolo del valor final del intervalo "
+                                 "anterior.";
+    const std::string posterior = "El símbolo del valor inicial del intervalo (abierto o "
+                                  "cerrado) no es consecuente con el símbolo del valor final del "
+                                  "intervalo posterior.";
+    const std::string sinInferior =
+        "Si el intervalo inicial ha de ser abierto hacia la izquierda y con valor R(X) = 1, no "
+        "puede existir límite inferior.\nPara modificarlo, deje vacío su valor, elimine el límite "
+        "y vuelva a escribirlo.";
+    const std::string sinSuperior =
+        "Si el intervalo final ha de ser abierto hacia la derecha y con valor R(X) = 1, no puede "
+        "existir límite superior.\nPara modificarlo, deje vacío su valor, elimine el límite y "
+        "vuelva a escribirlo.";
+    struct Caso {
+        int fila;
+        int columna;
+        const char* texto;
+        std::string mensaje; // empty: passes
+    };
+    // Rows: [0,10) 1, [10,20] 0.5, (20,30] 1; limits "<0" and ">30".
+    const Caso casos[] = {
+        {2, 1, "", ""},
+        {2, 1, "10", "Falta introducir el signo de intervalo (=, < o >)."},
+        {2, 1, "=1x",
+         "El valor a introducir debe de ser un número precedido del símbolo de "
+         "intervalo (=, < o >)."},
+        {2, 1, "=10", ""},
+        {2, 1, ">10", anterior},
+        {2, 1, "=11", frontera},
+        {2, 1, "=10.0", frontera}, // the numbers are compared as texts
+        {2, 2, "=20", ""},
+        {2, 2, "<20", posterior},
+        {2, 2, "=21", frontera},
+        {1, 1, "<0", sinInferior},
+        {1, 1, "=0", ""},
+        {1, 1, "=5000", ""}, // nothing else is checked on the first start
+        {3, 2, "<30", sinSuperior},
+        {3, 2, ">30", sinSuperior}, // anything but "=" is open to the right
+        {3, 2, "=30", ""},
+        {1, 3, "0.5", "El valor inicial del primer intervalo tiene que ser 0 o 1."},
+        {3, 3, "0.5", "El valor final del último intervalo tiene que ser 0 o 1."},
+        {2, 3, "1.5", "El valor introducido debe estar entre 0 y 1."},
+        {2, 3, "x", "El valor introducido debe ser un número."},
+        {2, 3, "0.25", ""},
+        {1, 3, "0", ""},
+    };
+    for (const Caso& caso : casos) {
+        Escalones({{"1", "=0", "<10", "1"}, {"2", "=10", "=20", "0.5"}, {"3", ">20", "=30", "1"}});
+        Limites("<0", ">30", "", "");
+        editor.FilaActual = caso.fila;
+        editor.ColumnaActual = caso.columna;
+        if (!caso.mensaje.empty()) {
+            mensajes.Esperar(kTituloFuncion, caso.mensaje);
+        }
+        EXPECT_EQ(editor.ValidarIntervalo(caso.texto), !caso.mensaje.empty())
+            << caso.fila << "," << caso.columna << " " << caso.texto;
+    }
+    // A start is checked only when its own end is filled.
+    Escalones({{"1", "=0", "<10", "0"}, {"2", "", "", ""}});
+    editor.FilaActual = 2;
+    editor.ColumnaActual = 1;
+    EXPECT_FALSE(editor.ValidarIntervalo(">99"));
+}
+
+TEST_F(Editor, LeavingACellCommitsAGoodTextAndKeepsTheOldOneOtherwise) {
+    sesion().MostrarAvisoFuncionValor = false;
+    Escalones({{"1", "=0", "<10", "0"}, {"2", "", "", ""}, {"3", "", "", ""}});
+    EscribirCelda(2, 1, "=10");
+    EXPECT_EQ(editor.Filas[1][1], "=10");
+    EscribirCelda(2, 3, "-0");
+    EXPECT_EQ(editor.Filas[1][3], "0") << "its absolute value, in plain form";
+    mensajes.Esperar(kTituloError, "Debe introducir un valor numérico.");
+    EscribirCelda(2, 3, "medio");
+    EXPECT_EQ(editor.Filas[1][3], "0");
+    mensajes.Esperar(kTituloError,
+                     "El valor de la función R(x) debe de estar comprendido entre 0 y 1.");
+    EscribirCelda(2, 3, "2");
+    mensajes.Esperar(kTituloFuncion, "El valor final del último intervalo tiene que ser 0 o 1.");
+    EscribirCelda(3, 3, "0.5");
+    EXPECT_EQ(editor.Filas[2][3], "");
+    EscribirCelda(2, 3, "");
+    EXPECT_EQ(editor.Filas[1][3], "") << "a cell may be emptied";
+    mensajes.Esperar(kTituloFuncion, "Falta introducir el signo de intervalo (=, < o >).");
+    mensajes.Esperar(kTituloFuncion, "Se mantendrá el valor existente anteriormente.");
+    EscribirCelda(2, 2, "20");
+    EXPECT_EQ(editor.Filas[1][2], "");
+    EXPECT_FALSE(editor.EntradaAbierta);
+    const int dibujos = editor.Dibujos;
+    editor.SalirCelda("=5");
+    EXPECT_EQ(editor.Dibujos, dibujos) << "no input open: nothing happens";
+}
+
+TEST_F(Editor, TheKeysOfTheFloatingInputValidateCommitAndMove) {
+    sesion().MostrarAvisoFuncionValor = false;
+    Escalones({{"1", "=0", "<10", "0"}, {"2", "=10", "=20", "1"}});
+    struct Caso {
+        int fila;
+        int columna;
+        int tecla;
+        const char* texto;
+        AccionEntrada accion;
+        int filaDespues;
+        int columnaDespues;
+    };
+    const Caso casos[] = {
+        {1, 1, 37, "=0", AccionEntrada::Movida, 1, 1}, // left at column 1 stays
+        {1, 2, 37, "<10", AccionEntrada::Movida, 1, 1},
+        {1, 3, 39, "0", AccionEntrada::Movida, 1, 3},
+        {1, 1, 39, "=0", AccionEntrada::Movida, 1, 2},
+        {1, 1, 38, "=0", AccionEntrada::Movida, 1, 1},
+        {1, 1, 40, "=0", AccionEntrada::Movida, 2, 1},
+        {2, 1, 40, "=10", AccionEntrada::Movida, 2, 1},
+        {1, 3, 40, "0.5", AccionEntrada::Retenida, 1, 3},
+        {2, 2, 13, "=20", AccionEntrada::Confirmada, 2, 2},
+        {2, 2, 27, "=25", AccionEntrada::Descartada, 2, 2},
+        {2, 2, 65, "=25", AccionEntrada::Ninguna, 2, 2},
+    };
+    for (const Caso& caso : casos) {
+        editor.FilaActual = caso.fila;
+        editor.ColumnaActual = caso.columna;
+        ASSERT_TRUE(editor.AbrirCelda());
+        if (caso.accion == AccionEntrada::Retenida) {
+            mensajes.Esperar(kTituloFuncion,
+                             "El valor inicial del primer intervalo tiene que ser 0 o 1.");
+        }
+        EXPECT_EQ(editor.TeclaEntrada(caso.tecla, caso.texto), caso.accion) << caso.tecla;
+        EXPECT_EQ(editor.FilaActual, caso.filaDespues) << caso.tecla;
+        EXPECT_EQ(editor.ColumnaActual, caso.columnaDespues) << caso.tecla;
+        const bool abierta =
+            caso.accion == AccionEntrada::Retenida || caso.accion == AccionEntrada::Ninguna;
+        EXPECT_EQ(editor.EntradaAbierta, abierta) << caso.tecla;
+        editor.EntradaAbierta = false;
+    }
+    EXPECT_EQ(editor.Filas[1][2], "=20") << "Escape kept the cell";
+}
+
+TEST_F(Editor, ErrorMinMaxWantsAZeroAndAOneSomewhere) {
+    struct Caso {
+        std::vector<const char*> valores;
+        bool error;
+    };
+    const Caso casos[] = {
+        {{"0", "0.5", "1"}, false},
+        {{"1", "0", "1"}, false},
+        {{"1", "0.5", "1"}, true},
+        {{"0"}, true},
+        {{"1"}, true},
+        {{"0", "", "1"}, false},
+        {{}, true},
+    };
+    for (const Caso& caso : casos) {
+        std::vector<FilaIntervalo> filas;
+        for (const char* valor : caso.valores) {
+            filas.push_back({"", "", "", valor});
+        }
+        Escalones(filas);
+        if (caso.valores.empty()) {
+            editor.CambiarIntervalos(0);
+        }
+        editor.FilaActual = 2;
+        editor.ColumnaActual = 1;
+        if (caso.error) {
+            mensajes.Esperar("VADRO: error",
+                             "La función escalón debe de tener al menos un mínimo en 0 y un "
+                             "máximo en 1");
+        }
+        EXPECT_EQ(editor.ErrorMinMax(), caso.error) << caso.valores.size();
+        if (caso.error) {
+            EXPECT_EQ(std::pair(editor.FilaActual, editor.ColumnaActual), std::pair(1, 3));
+        }
+    }
+    editor.EntradaAbierta = true;
+    EXPECT_FALSE(editor.ErrorMinMax()) << "not while a cell is open";
+    editor.EntradaAbierta = false;
+    editor.Tipo = kTipoContinua;
+    EXPECT_FALSE(editor.ErrorMinMax()) << "only for steps";
+}
+
+TEST_F(Editor, TheReferenceLabelsListTheStepsWorthZeroAndOne) {
+    const std::pair<std::pair<const char*, const char*>, const char*> formatos[] = {
+        {{"=10", "<20"}, "[10,20)"}, {{">0", "=5"}, "(0,5]"}, {{"", "=5"}, "(?,5]"},
+        {{"<3", ""}, "(3,?)"},       {{"", ""}, "(?,?)"},
+    };
+    for (const auto& [extremos, texto] : formatos) {
+        EXPECT_EQ(FormatoIntervalo(extremos.first, extremos.second), texto);
+    }
+    Escalones({{"1", "=0", "<10", "0"},
+               {"2", "=10", "<20", "0.5"},
+               {"3", "=20", "=30", "1"},
+               {"4", ">30", "<40", ""},
+               {"5", "=40", "=50", "0"}});
+    editor.ActualizarEtiquetasRef();
+    EXPECT_EQ(editor.lblMinRef, "[0,10)[40,50]");
+    EXPECT_EQ(editor.lblMaxRef, "[20,30]");
+    mensajes.Esperar(kTituloFuncion, "Los puntos de mínima satisfacción vienen impuestos por "
+                                     "los valores introducidos en la definición de los "
+                                     "escalones.");
+    editor.ClickEtiquetaRef(false);
+    mensajes.Esperar(kTituloFuncion, "Los puntos de máxima satisfacción vienen impuestos por "
+                                     "los valores introducidos en la definición de los "
+                                     "escalones.");
+    editor.ClickEtiquetaRef(true);
+}
+
+TEST_F(Editor, TheCountOfIntervalsGrowsFreelyAndShrinksOnlyWhenConfirmed) {
+    editor.Tipo = kTipoEscalon;
+    EXPECT_EQ(editor.Filas, (std::vector<FilaIntervalo>{{" -", " -", " -", " -"}}));
+    editor.CambiarIntervalos(1);
+    EXPECT_EQ(editor.Filas, (std::vector<FilaIntervalo>{{"1", "", "", ""}}));
+    EXPECT_TRUE(editor.RejillaHabilitada);
+    editor.CambiarIntervalos(3);
+    editor.Filas[2][1] = "=20";
+    EXPECT_EQ(editor.Filas.back()[0], "3");
+    confirmar = false;
+    editor.CambiarIntervalos(2);
+    EXPECT_EQ(editor.Intervalos, 3) << "declined: the count and the rows stay";
+    EXPECT_EQ(editor.Filas.size(), 3U);
+    confirmar = true;
+    editor.CambiarIntervalos(2);
+    EXPECT_EQ(editor.Filas.size(), 2U) << "rows go from the end";
+    editor.Aviso = false;
+    editor.CambiarIntervalos(0);
+    EXPECT_EQ(confirmaciones, 2) << "without the warning nothing is asked";
+    EXPECT_EQ(editor.Filas, (std::vector<FilaIntervalo>{{" -", " -", " -", " -"}}));
+    EXPECT_FALSE(editor.RejillaHabilitada);
+    editor.Aviso = true;
+    editor.Cargando = true;
+    editor.CambiarIntervalos(2);
+    editor.CambiarIntervalos(1);
+    EXPECT_EQ(confirmaciones, 2) << "nothing is asked while loading";
+    EXPECT_FALSE(editor.AbrirCelda() && editor.ColumnaActual == 0);
+    editor.ColumnaActual = 0;
+    EXPECT_FALSE(editor.AbrirCelda()) << "the column Id is not edited";
+}
+
+TEST_F(Editor, TheKindListAndTheTabsShowTheirPanels) {
+    using P = Paneles;
+    struct Caso {
+        int pestanaAntes;
+        int tipo;
+        int pestanaClick; // 0: no click on the tabs afterwards
+        P paneles;
+        int pestana;
+    };
+    const Caso casos[] = {
+        {1, kTipoContinua, 0, P{true, true, false, false, false, false, true}, 1},
+        {2, kTipoContinua, 0, P{true, true, false, false, false, false, true}, 1},
+        {2, kTipoEscalon, 0, P{true, false, true, false, false, false, false}, 1},
+        {1, kTipoPuntuacion, 0, P{true, true, false, false, false, false, true}, 1},
+        {2, kTipoPuntuacion, 0, P{false, true, false, true, false, false, true}, 2},
+        {1, kTipoPuntuacion, 2, P{false, true, false, true, false, false, true}, 2},
+        {1, kTipoContinua, 2, P{false, true, false, false, false, true, true}, 2},
+        {1, kTipoEscalon, 2, P{false, false, true, false, false, true, false}, 2},
+        {2, kTipoPuntuacion, 1, P{true, true, false, false, false, false, true}, 1},
+    };
+    for (const Caso& caso : casos) {
+        EditorFuncion e;
+        e.Pestana = caso.pestanaAntes;
+        e.ClickTipo(caso.tipo);
+        if (caso.pestanaClick != 0) {
+            e.ClickPestana(caso.pestanaClick);
+        }
+        EXPECT_EQ(e.paneles, caso.paneles) << caso.tipo << " " << caso.pestanaClick;
+        EXPECT_EQ(e.Pestana, caso.pestana);
+    }
+    EditorFuncion e;
+    e.ClickTipo(kTipoEscalon);
+    e.ClickOptativos(true);
+    EXPECT_FALSE(e.TipoHabilitado);
+    EXPECT_FALSE(e.PlantillasHabilitadas);
+    EXPECT_TRUE(e.paneles.Optativos);
+    EXPECT_FALSE(e.paneles.FondoGrafica);
+    e.ClickOptativos(false);
+    EXPECT_EQ(e.paneles, (P{true, false, true, false, false, false, false})) << "the kind again";
+}
+
+TEST_F(Editor, ReadingAndWritingKeepEveryKindOfRecord) {
+    sesion().MostrarAvisoFuncionValor = false;
+    FuncionValor continua = pruebas::Continua();
+    FuncionValor escalones = pruebas::DeEscalones<FuncionValor>();
+    escalones.C = 7.0; // a step function keeps its old parameters
+    FuncionValor puntuacion = pruebas::DePuntuacion();
+    FuncionValor optativos = pruebas::DeOptativos("I1C1R1");
+    for (FuncionValor* original : {&continua, &escalones, &puntuacion, &optativos}) {
+        FuncionValor registro = *original;
+        EditorFuncion e;
+        e.Cargar(registro);
+        FuncionValor escrito = *original;
+        e.EscribirFuncion(escrito);
+        EXPECT_EQ(escrito, *original) << original->Tipo;
+        EXPECT_EQ(registro, *original) << "nothing written before acceptance";
+    }
+    FuncionValor nueva;
+    EditorFuncion e;
+    e.Cargar(nueva);
+    EXPECT_EQ(e.Tipo, kTipoNinguno);
+    EXPECT_EQ(e.Intervalos, 0);
+    EXPECT_TRUE(e.Aceptar());
+    EXPECT_EQ(nueva, FuncionValor{}) << "no kind: no Tipo written, every value empty";
+    EXPECT_TRUE(e.PuedeCerrar()) << "accepted: no question";
+}
+
+TEST_F(Editor, AcceptingWritesTheRecordAndCancellingRestoresTheFlag) {
+    sesion().MostrarAvisoFuncionValor = false;
+    FuncionValor registro = pruebas::Continua();
+    EditorFuncion e;
+    e.Cargar(registro);
+    e.Cambio(Campo::K, "0.75");
+    EXPECT_TRUE(sesion().modelo.Modificado);
+    EXPECT_EQ(registro.K, ValorLibre(0.5));
+    e.Cancelar();
+    EXPECT_FALSE(sesion().modelo.Modificado);
+    mensajes.Esperar("VADRO",
+                     "Se perderán los últimos valores introducidos. Está seguro que quiere "
+                     "cerrar la ventana?",
+                     Respuesta::No);
+    EXPECT_FALSE(e.PuedeCerrar());
+    EXPECT_FALSE(sesion().modelo.Modificado) << "the cancel's restoring stands";
+    ASSERT_TRUE(e.Aceptar());
+    EXPECT_EQ(registro.K, ValorLibre(0.75));
+    EXPECT_TRUE(sesion().modelo.Modificado);
+
+    // A scoring function without elements is kept as a continuous one if the user agrees.
+    FuncionValor vacia = pruebas::DePuntuacion();
+    vacia.Puntuaciones.Borrar();
+    EditorFuncion p;
+    p.Cargar(vacia);
+    const std::string pregunta =
+        "La función definida como función de puntuación, no tiene elementos numéricos ni "
+        "booleanos. Se guardará cómo función contínua.";
+    mensajes.Esperar("VADRO: error", pregunta, Respuesta::Cancelar);
+    EXPECT_FALSE(p.Aceptar());
+    EXPECT_EQ(p.Tipo, kTipoPuntuacion);
+    mensajes.Esperar("VADRO: error", pregunta, Respuesta::Aceptar);
+    EXPECT_TRUE(p.Aceptar());
+    EXPECT_EQ(vacia.Tipo, FuncionContinua);
+}
+
+TEST_F(Editor, ActivationReportsALimitThatNoLongerFits) {
+    sesion().MostrarAvisoFuncionValor = false;
+    FuncionValor registro = pruebas::DeEscalones<FuncionValor>();
+    registro.XMax = ">80";
+    EditorFuncion e;
+    e.Cargar(registro);
+    mensajes.Esperar(kTituloSuperior, "El valor del límite superior debe ser igual al valor "
+                                      "final del último intervalo.\n" +
+                                          kCorrijalo);
+    e.Activar();
+    EXPECT_EQ(e.Texto(Campo::Max), "");
+    ASSERT_TRUE(e.foco);
+    EXPECT_EQ(e.foco->campo, Campo::Max);
+    EXPECT_FALSE(e.Activando);
+}
+
+TEST_F(Editor, TheSecondInstanceWritesAnOptionalIndicatorsFunction) {
+    sesion().MostrarAvisoFuncionValor = false;
+    FuncionOptativo registro = pruebas::DeEscalones<FuncionOptativo>();
+    EditorFuncion e;
+    e.Cargar(registro);
+    EXPECT_TRUE(e.EdicionOptativo);
+    EXPECT_EQ(e.Tipo, kTipoEscalon);
+    e.ClickTipo(kTipoContinua);
+    e.Cambio(Campo::C, "40");
+    ASSERT_TRUE(e.Aceptar());
+    EXPECT_EQ(registro.Tipo, FuncionContinua);
+    EXPECT_EQ(registro.C, ValorLibre(40.0));
+    EXPECT_EQ(registro.Escalones.Tamano(), 3) << "the grid's rows are still written";
+}
+
+TEST_F(Editor, AStepFunctionTakesItsReferenceLimitsFromItsOuterSteps) {
+    sesion().MostrarAvisoFuncionValor = false;
+    Escalones({{"1", "=0", "<10", "1"}, {"2", "=10", "=30", ""}});
+    EscribirCelda(2, 3, "0");
+    EXPECT_EQ(editor.Texto(Campo::MinRef), "30") << "decreasing: the zero lies at the end";
+    EXPECT_EQ(editor.Texto(Campo::MaxRef), "0");
+    EscribirCelda(1, 3, "0");
+    EXPECT_EQ(editor.Texto(Campo::MinRef), "0");
+    EXPECT_EQ(editor.Texto(Campo::MaxRef), "30");
+    EXPECT_EQ(editor.lblMaxRef, "");
+    EXPECT_EQ(editor.lblMinRef, "[0,10)[10,30]");
+}
+
+} // namespace
+} // namespace vadro

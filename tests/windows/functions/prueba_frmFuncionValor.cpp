@@ -1,0 +1,372 @@
+#include "core/core/ini.h"
+#include "soporte/guion_dialogos.h"
+#include "soporte/guion_modales.h"
+#include "soporte/modelo_sano.h"
+#include "soporte/prueba_sesion.h"
+#include "soporte/volcado_ventana.h"
+#include "windows/functions/arriba_abajo.h"
+#include "windows/functions/frmFuncionValor.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTableView>
+#include <QTest>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace vadro {
+namespace {
+
+using pruebas::Hijo;
+
+const std::string kTituloFuncion = "VADRO: función de valor";
+
+class VentanaFuncion : public pruebas::PruebaSesion {
+protected:
+    VentanaFuncion() {
+        sesion().NodosEdicion.Redimensionar(1);
+        sesion().MostrarAvisoFuncionValor = false;
+    }
+
+    frmFuncionValor& Abrir(const FuncionValor& funcion) {
+        sesion().NodosEdicion(1).Funcion = funcion;
+        ventana = std::make_unique<frmFuncionValor>(sesion().NodosEdicion(1).Funcion, "Coste");
+        ventana->show();
+        ventana->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
+        return *ventana;
+    }
+    const FuncionValor& Registro() { return sesion().NodosEdicion(1).Funcion; }
+
+    QLineEdit* Entrada(const char* nombre) { return Hijo<QLineEdit>(*ventana, nombre); }
+    QString Etiqueta(const char* nombre) { return Hijo<QLabel>(*ventana, nombre)->text(); }
+    // Types into an input in place of its text, as a user who selected it all.
+    void Escribir(const char* nombre, const QString& texto) {
+        QLineEdit* entrada = Entrada(nombre);
+        entrada->setFocus();
+        entrada->selectAll();
+        QTest::keyClicks(entrada, texto);
+    }
+    // Leaves the input for the unit box.
+    void Salir() { Entrada("txtUnidades")->setFocus(Qt::TabFocusReason); }
+    void Flecha(const char* control, bool arriba) {
+        const auto botones = Hijo<ArribaAbajo>(*ventana, control)->findChildren<QToolButton*>();
+        botones[arriba ? 0 : 1]->click();
+    }
+    void ElegirTipo(int indice) {
+        auto* combo = ventana->cbbTipoFuncionPrimaria;
+        combo->setFocus();
+        while (combo->currentIndex() < indice) {
+            QTest::keyClick(combo, Qt::Key_Down);
+        }
+    }
+    // Types a cell through the grid's floating input and ends with a key.
+    void Celda(int fila, int columna, const QString& texto, Qt::Key fin = Qt::Key_Return) {
+        QTableView* rejilla = ventana->grdIntervalos;
+        rejilla->setFocus();
+        rejilla->setCurrentIndex(rejilla->model()->index(fila - 1, columna));
+        QTest::keyClick(rejilla, texto.at(0).toLatin1());
+        ASSERT_TRUE(ventana->txtValor->isVisible());
+        QTest::keyClicks(ventana->txtValor, texto.mid(1));
+        QTest::keyClick(ventana->txtValor, fin);
+    }
+    QString TextoCelda(int fila, int columna) {
+        return ventana->grdIntervalos->model()->index(fila - 1, columna).data().toString();
+    }
+    void Aceptar() { QTest::mouseClick(ventana->cmdAceptar, Qt::LeftButton); }
+
+    std::unique_ptr<frmFuncionValor> ventana;
+};
+
+TEST_F(VentanaFuncion, ANewFunctionShowsTheNoticeAtOnceAndItsOptionLastsTheSession) {
+    sesion().MostrarAvisoFuncionValor = true;
+    pruebas::GuionModales modales;
+    modales.Esperar(QStringLiteral("frmAvisoFuncionValor"), [](QDialog& aviso) {
+        Hijo<QCheckBox>(aviso, "chkAviso")->click();
+        Hijo<QPushButton>(aviso, "cmdAceptar")->click();
+    });
+    Abrir(FuncionValor{});
+    EXPECT_FALSE(sesion().MostrarAvisoFuncionValor);
+    EXPECT_EQ(ventana->windowTitle().toStdString(), "Definición de la función de valor - [Coste]");
+    EXPECT_EQ(ventana->cbbTipoFuncionPrimaria->currentIndex(), -1);
+    EXPECT_FALSE(sesion().modelo.Modificado) << "opening changes nothing";
+}
+
+TEST_F(VentanaFuncion, CBoundsWithEmptyAndNarrowLimitsLettersInKAndTheRecordWritten) {
+    Abrir(FuncionValor{});
+    EXPECT_EQ(Etiqueta("lblLimitesC").toStdString(), "Pto. inflexión en abcisa (0 < C < 100)");
+    Escribir("txtC", QStringLiteral("50"));
+    EXPECT_EQ(ventana->cbbTipoFuncionPrimaria->currentText().toStdString(), "Continua");
+    Flecha("updC", true);
+    EXPECT_EQ(Entrada("txtC")->text(), QStringLiteral("51.00")) << "a step of 1 from 0 to 100";
+    Escribir("txtMinRef", QStringLiteral("0"));
+    Salir();
+    Escribir("txtMaxRef", QStringLiteral("0.5"));
+    Salir();
+    EXPECT_EQ(Etiqueta("lblLimitesC").toStdString(), "Pto. inflexión en abcisa (0 < C < 0.5)");
+    EXPECT_EQ(Entrada("txtC")->text(), QStringLiteral("0"))
+        << "clamped at each key: while the limit read 0, C had to lie between 0 and 0";
+    Escribir("txtC", QStringLiteral("0.25"));
+    Flecha("updC", true);
+    EXPECT_EQ(Entrada("txtC")->text(), QStringLiteral("0.26")) << "the step is raised to 0.01";
+    Escribir("txtK", QStringLiteral("0.5"));
+    mensajes.Esperar("VADRO PROGRAMADOR: error", "Debe introducir un número.");
+    QTest::keyClicks(Entrada("txtK"), QStringLiteral("x"));
+    EXPECT_EQ(Entrada("txtK")->text(), QStringLiteral("0.50"));
+    QTest::keyClick(Entrada("txtK"), Qt::Key_Up);
+    EXPECT_EQ(Entrada("txtK")->text(), QStringLiteral("0.51"));
+    EXPECT_TRUE(mensajes.Completo());
+    Aceptar();
+    EXPECT_FALSE(ventana->isVisible());
+    const FuncionValor& f = Registro();
+    EXPECT_EQ(f.Tipo, FuncionContinua);
+    EXPECT_EQ(f.RMin, ValorLibre(0.0));
+    EXPECT_EQ(f.RMax, ValorLibre(0.5));
+    EXPECT_EQ(f.C, ValorLibre(0.26));
+    EXPECT_EQ(f.K, ValorLibre(0.51));
+    EXPECT_TRUE(f.P.EsVacio());
+    EXPECT_TRUE(sesion().modelo.Modificado);
+}
+
+TEST_F(VentanaFuncion, ConcaveOnADecreasingFunctionAndTheSwappedCaptions) {
+    FuncionValor f = pruebas::Continua();
+    f.RMin = 100.0;
+    f.RMax = 0.0;
+    f.XMin = ValorLibre();
+    f.XMax = ValorLibre();
+    Abrir(f);
+    EXPECT_EQ(Etiqueta("lblMinimo"), QStringLiteral("0 m"));
+    EXPECT_EQ(Etiqueta("lblMaximo"), QStringLiteral("100 m"));
+    const int dibujos = ventana->editor.Dibujos;
+    QTest::mouseClick(ventana->cmdFuncion[2], Qt::LeftButton);
+    EXPECT_EQ(ventana->editor.Dibujos, dibujos + 1) << "one drawing for the three inputs";
+    EXPECT_EQ(Entrada("txtC")->text(), QStringLiteral("20"));
+    EXPECT_EQ(Entrada("txtK")->text(), QStringLiteral("0.3"));
+    EXPECT_EQ(Entrada("txtP")->text(), QStringLiteral("5"));
+    Aceptar();
+    EXPECT_EQ(Registro().C, ValorLibre(20.0));
+    EXPECT_EQ(Registro().P, ValorLibre(5.0));
+}
+
+TEST_F(VentanaFuncion, AnUpperLimitOpenAboveAStepEndingOpenIsRefusedAndEmptied) {
+    FuncionValor f = pruebas::DeEscalones<FuncionValor>();
+    f.XMax = ValorLibre();
+    f.Escalones(3).ValorFinal = "<100";
+    f.RMax = 100.0;
+    Abrir(f);
+    Escribir("txtMax", QStringLiteral(">100"));
+    mensajes.Esperar("VADRO: error en límite superior",
+                     "Los símbolos de intervalo del límite superior y el del valor final del "
+                     "último intervalo no son consecuentes\ny dejan discontinuidades o "
+                     "soluciones múltiples.\nCorríjalo o deje vacío su valor.");
+    QTest::keyClick(Entrada("txtMax"), Qt::Key_Return);
+    EXPECT_EQ(Entrada("txtMax")->text(), QString());
+    EXPECT_TRUE(Entrada("txtMax")->hasFocus()) << "the focus goes back to the limit";
+}
+
+TEST_F(VentanaFuncion, AThreeRowStepFunctionIsTypedAndAccepted) {
+    Abrir(FuncionValor{});
+    ElegirTipo(kTipoEscalon);
+    EXPECT_TRUE(ventana->fmeEscalon->isVisible());
+    EXPECT_FALSE(ventana->fmeContinua->isVisible());
+    EXPECT_FALSE(ventana->grdIntervalos->isEnabled());
+    EXPECT_EQ(TextoCelda(1, 2), QStringLiteral(" -"));
+    for (int i = 0; i < 3; ++i) {
+        Flecha("updIntervalos", true);
+    }
+    EXPECT_EQ(Etiqueta("lblIntervalos"), QStringLiteral("3"));
+    QAbstractItemModelTester comprobador(ventana->grdIntervalos->model());
+    Celda(1, 1, QStringLiteral("=0"), Qt::Key_Right);
+    Celda(1, 2, QStringLiteral("<10"), Qt::Key_Right);
+    Celda(1, 3, QStringLiteral("0"));
+    Celda(2, 1, QStringLiteral("=10"));
+    Celda(2, 2, QStringLiteral("<20"));
+    Celda(2, 3, QStringLiteral("0.5"));
+    Celda(3, 1, QStringLiteral("=20"));
+    Celda(3, 2, QStringLiteral("=30"));
+    Celda(3, 3, QStringLiteral("1"));
+    EXPECT_EQ(Etiqueta("lblMinRef"), QStringLiteral("[0,10)"));
+    EXPECT_EQ(Etiqueta("lblMaxRef"), QStringLiteral("[20,30]"));
+    EXPECT_TRUE(Hijo<QLabel>(*ventana, "lblMinRef")->isVisible());
+    EXPECT_FALSE(Entrada("txtMinRef")->isVisible());
+    Escribir("txtMax", QStringLiteral(">30"));
+    Salir();
+    Aceptar();
+    EXPECT_FALSE(ventana->isVisible());
+    const FuncionValor& f = Registro();
+    EXPECT_EQ(f.Tipo, FuncionEscalon);
+    ASSERT_EQ(f.Escalones.Tamano(), 3);
+    EXPECT_EQ(f.Escalones(2), (Escalon{"=10", "<20", 0.5}));
+    EXPECT_EQ(f.Escalones(3), (Escalon{"=20", "=30", 1.0}));
+    EXPECT_EQ(f.XMax, ValorLibre(">30"));
+    EXPECT_EQ(f.RMin, ValorLibre(0.0)) << "the reference limits follow the outer steps";
+    EXPECT_EQ(f.RMax, ValorLibre(30.0));
+}
+
+TEST_F(VentanaFuncion, StepCellsRefuseASecondStartAtAClosedEndAndAHalfInTheFirstRow) {
+    FuncionValor f;
+    f.Tipo = FuncionEscalon;
+    f.Escalones.Redimensionar(2);
+    f.Escalones(1) = {"=0", "=10", 0.0};
+    f.Escalones(2) = {"", "<20", 1.0};
+    Abrir(f);
+    mensajes.Esperar(kTituloFuncion,
+                     "El símbolo del valor inicial del intervalo (abierto o cerrado) no es "
+                     "consecuente con el símbolo del valor final del intervalo anterior.");
+    mensajes.Esperar(kTituloFuncion, "Se mantendrá el valor existente anteriormente.");
+    Celda(2, 1, QStringLiteral("=10"));
+    EXPECT_EQ(TextoCelda(2, 1), QString());
+    EXPECT_FALSE(ventana->txtValor->isVisible());
+    Celda(2, 1, QStringLiteral(">10"));
+    EXPECT_EQ(TextoCelda(2, 1), QStringLiteral(">10"));
+
+    mensajes.Esperar(kTituloFuncion, "El valor inicial del primer intervalo tiene que ser 0 o 1.");
+    Celda(1, 3, QStringLiteral("0.5"), Qt::Key_Down);
+    EXPECT_TRUE(ventana->txtValor->isVisible()) << "the arrow keeps the refused input open";
+    QTest::keyClick(ventana->txtValor, Qt::Key_Escape);
+    EXPECT_FALSE(ventana->txtValor->isVisible());
+    EXPECT_EQ(TextoCelda(1, 3), QStringLiteral("0"));
+    EXPECT_TRUE(ventana->isVisible()) << "Escape closed the input, not the window";
+}
+
+TEST_F(VentanaFuncion, AOneRowStepFunctionIsRefusedAtAcceptance) {
+    FuncionValor f;
+    f.Tipo = FuncionEscalon;
+    f.Escalones.Redimensionar(1);
+    f.Escalones(1) = {"=0", "=10", 1.0};
+    Abrir(f);
+    mensajes.Esperar("VADRO: error",
+                     "La función escalón debe de tener al menos un mínimo en 0 y un máximo en 1");
+    Aceptar();
+    EXPECT_TRUE(ventana->isVisible());
+    EXPECT_EQ(ventana->grdIntervalos->currentIndex().row(), 0);
+    EXPECT_EQ(ventana->grdIntervalos->currentIndex().column(), 3);
+    EXPECT_EQ(Registro(), f) << "nothing written";
+}
+
+TEST_F(VentanaFuncion, ReducingTheCountAsksThroughTheConfirmation) {
+    Abrir(pruebas::DeEscalones<FuncionValor>());
+    pruebas::GuionModales modales;
+    modales.Esperar(QStringLiteral("frmConfirmacion"),
+                    [](QDialog& d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
+    Flecha("updIntervalos", false);
+    EXPECT_EQ(Etiqueta("lblIntervalos"), QStringLiteral("3"));
+    EXPECT_EQ(ventana->grdIntervalos->model()->rowCount(), 3);
+    modales.Esperar(QStringLiteral("frmConfirmacion"), [](QDialog& d) {
+        Hijo<QCheckBox>(d, "chkAviso")->click();
+        Hijo<QPushButton>(d, "cmdAceptar")->click();
+    });
+    Flecha("updIntervalos", false);
+    Flecha("updIntervalos", false);
+    EXPECT_EQ(Etiqueta("lblIntervalos"), QStringLiteral("1"));
+    EXPECT_EQ(modales.Vistas().size(), 2U) << "the box switched the question off";
+}
+
+TEST_F(VentanaFuncion, AStepFunctionSavedAsATemplateComesBack) {
+    const std::string ruta = Ruta("escalones.fva");
+    Abrir(pruebas::DeEscalones<FuncionValor>());
+    {
+        pruebas::GuionDialogos dialogos;
+        dialogos.Elegir("Exportar función de valor", ruta);
+        QTest::mouseClick(ventana->cmdGuardar, Qt::LeftButton);
+        EXPECT_EQ(dialogos.Peticiones().at(0).filtro,
+                  "Plantillas de función de valor (*.fva)|*.fva");
+    }
+    EXPECT_EQ(LeerIni("DIRECTORIOS", "FUNCION_VALOR", Ruta("Config.ini")).Texto(), Directorio());
+    mensajes.Esperar("VADRO",
+                     "Se perderán los últimos valores introducidos. Está seguro que "
+                     "quiere cerrar la ventana?",
+                     Respuesta::Si);
+    ventana->close();
+
+    Abrir(pruebas::Continua());
+    {
+        pruebas::GuionDialogos dialogos;
+        dialogos.Elegir("Importar función de valor", ruta);
+        QTest::mouseClick(ventana->cmdCargar, Qt::LeftButton);
+        EXPECT_EQ(dialogos.Peticiones().at(0).directorioInicial, Directorio());
+    }
+    EXPECT_EQ(ventana->cbbTipoFuncionPrimaria->currentText().toStdString(), "Escalón");
+    EXPECT_EQ(Entrada("txtMin")->text(), QStringLiteral("<0"));
+    EXPECT_EQ(Entrada("txtMax")->text(), QStringLiteral(">90"));
+    EXPECT_EQ(Etiqueta("lblIntervalos"), QStringLiteral("3"));
+    EXPECT_EQ(TextoCelda(3, 1), QStringLiteral(">60"));
+    EXPECT_EQ(Registro(), pruebas::Continua()) << "nothing stored before acceptance";
+    Aceptar();
+    FuncionValor esperada = pruebas::DeEscalones<FuncionValor>();
+    esperada.Clave = "I1C1R1";
+    esperada.C = 50.0; // the step function keeps the parameters the record had
+    esperada.K = 0.5;
+    esperada.P = 2.0;
+    EXPECT_EQ(Registro(), esperada);
+}
+
+TEST_F(VentanaFuncion, TheClosingQuestionKeepsTheWindowOnNoAndCancelRestoresTheFlag) {
+    Abrir(pruebas::Continua());
+    Escribir("txtK", QStringLiteral("0.7"));
+    EXPECT_TRUE(sesion().modelo.Modificado);
+    const std::string pregunta = "Se perderán los últimos valores introducidos. Está seguro que "
+                                 "quiere cerrar la ventana?";
+    mensajes.Esperar("VADRO", pregunta, Respuesta::No);
+    QTest::mouseClick(ventana->cmdCancelar, Qt::LeftButton);
+    EXPECT_TRUE(ventana->isVisible());
+    EXPECT_FALSE(sesion().modelo.Modificado) << "restored all the same";
+    mensajes.Esperar("VADRO", pregunta, Respuesta::Si);
+    ventana->close();
+    EXPECT_FALSE(ventana->isVisible());
+    EXPECT_EQ(Registro().K, ValorLibre(0.5));
+}
+
+TEST_F(VentanaFuncion, ScoringWithoutElementsIsStoredAsContinuous) {
+    FuncionValor f = pruebas::DePuntuacion();
+    f.Puntuaciones.Borrar();
+    Abrir(f);
+    EXPECT_EQ(ventana->cbbTipoFuncionPrimaria->currentText().toStdString(), "Puntuación");
+    ventana->tspSeleccion->tabBarClicked(1);
+    EXPECT_TRUE(ventana->pctTablas->isVisible());
+    EXPECT_FALSE(ventana->pctFondoGrafica->isVisible());
+    mensajes.Esperar("VADRO: error",
+                     "La función definida como función de puntuación, no tiene elementos "
+                     "numéricos ni booleanos. Se guardará cómo función contínua.");
+    Aceptar();
+    EXPECT_EQ(Registro().Tipo, FuncionContinua);
+}
+
+TEST_F(VentanaFuncion, EditarFuncionOpensModallyOnTheRowAndTellsWhetherItWasAccepted) {
+    sesion().NodosEdicion.Redimensionar(2);
+    sesion().NodosEdicion(2).Funcion = pruebas::Continua();
+    pruebas::GuionModales modales;
+    modales.Esperar(QStringLiteral("frmFuncionValor"), [](QDialog& d) {
+        EXPECT_EQ(d.windowTitle().toStdString(), "Definición de la función de valor - [Plazo]");
+        auto* k = Hijo<QLineEdit>(d, "txtK");
+        k->setFocus();
+        k->selectAll();
+        QTest::keyClicks(k, QStringLiteral("0.9"));
+        Hijo<QPushButton>(d, "cmdAceptar")->click();
+    });
+    EXPECT_TRUE(EditarFuncion(2, "Plazo", nullptr));
+    EXPECT_EQ(sesion().NodoEdicionActual, 2);
+    EXPECT_EQ(sesion().NodosEdicion(2).Funcion.K, ValorLibre(0.9));
+}
+
+TEST_F(VentanaFuncion, OneDumpPerKind) {
+    Abrir(pruebas::Continua());
+    pruebas::CompararVolcado(*ventana, "frmFuncionValor_continua");
+    Abrir(pruebas::DeEscalones<FuncionValor>());
+    pruebas::CompararVolcado(*ventana, "frmFuncionValor_escalon");
+    Abrir(pruebas::DePuntuacion());
+    pruebas::CompararVolcado(*ventana, "frmFuncionValor_puntuacion");
+}
+
+} // namespace
+} // namespace vadro
