@@ -22,6 +22,7 @@ std::string DescripcionError(int numero) {
         {ErrPermiso, "Permiso denegado"},
         {ErrAccesoRuta, "Error de acceso a la ruta o el archivo"},
         {ErrRutaNoEncontrada, "No se encontró la ruta de acceso"},
+        {ErrImpresora, "Error de impresora"},
         {ErrCancelar, "Se ha seleccionado Cancelar."},
     };
     const auto it = descripciones.find(numero);

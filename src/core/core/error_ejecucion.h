@@ -24,6 +24,7 @@ enum CodigoError : int {
     ErrPermiso = 70,
     ErrAccesoRuta = 75,
     ErrRutaNoEncontrada = 76,
+    ErrImpresora = 482,
     ErrCancelar = 32755,
 };
 
