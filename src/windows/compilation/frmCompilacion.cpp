@@ -20,6 +20,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QStyle>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace vadro {
@@ -53,6 +54,26 @@ QIcon IconoQt(IconoLinea icono, const QStyle& estilo) {
     return {};
 }
 
+// Every line keeps the room of an icon, so that the blanks that indent the findings line up
+// whether a line bears its icon or not.
+class DelegadoInforme : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* opcion, const QModelIndex& indice) const override {
+        QStyledItemDelegate::initStyleOption(opcion, indice);
+        const auto* lista = qobject_cast<const QAbstractItemView*>(opcion->widget);
+        if (opcion->icon.isNull() && lista != nullptr) {
+            opcion->decorationSize = lista->iconSize();
+            QPixmap vacio(opcion->decorationSize);
+            vacio.fill(Qt::transparent);
+            opcion->icon = QIcon(vacio);
+            opcion->features |= QStyleOptionViewItem::HasDecoration;
+        }
+    }
+};
+
 } // namespace
 
 frmCompilacion::frmCompilacion(QWidget* padre)
@@ -61,6 +82,7 @@ frmCompilacion::frmCompilacion(QWidget* padre)
     lstErrores->setObjectName(Q("lstErrores"));
     lstErrores->setSelectionMode(QAbstractItemView::SingleSelection);
     lstErrores->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    lstErrores->setItemDelegate(new DelegadoInforme(lstErrores));
     lstClaves = new QListWidget(this);
     lstClaves->setObjectName(Q("lstClaves"));
     lstClaves->hide();

@@ -1,5 +1,6 @@
 #include "ventana_principal.h"
 
+#include "soporte/modelo_sano.h"
 #include "windows/trees/frmRequerimientos.h"
 
 #include <QMenu>
@@ -126,7 +127,12 @@ TEST_F(SaltosPanel, CompilationLabelRefusesAnEmptyModelAndKeepsItsColour) {
 
 TEST_F(SaltosPanel, CompilationPaintsItsLabelBlackAndOpensTheWindowAnew) {
     NuevoModelo();
-    sesion().modelo.NumRequerimientos = 2;
+    sesion().modelo = pruebas::ModeloCorrecto();
+    const std::string correcta = "VADRO PROGRAMADOR: compilación correcta";
+    const std::string pregunta =
+        "El modelo no contiene errores.\n"
+        "Desea crear el archivo compilado (*.vdc) utilizable por el módulo VADRO USUARIO?";
+    mensajes.Esperar(correcta, pregunta, Respuesta::No).Esperar(correcta, pregunta, Respuesta::No);
     PulsarEtiqueta(8);
     EXPECT_EQ(Color(8), QColor(0, 0, 0));
     EXPECT_FALSE(Negrita(8));
@@ -137,7 +143,8 @@ TEST_F(SaltosPanel, CompilationPaintsItsLabelBlackAndOpensTheWindowAnew) {
     principal.mnuCompilar->trigger();
     EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmCompilacion"}));
     EXPECT_NE(Hija("frmCompilacion"), primera) << "the open one is unloaded and loaded again";
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes") << "compiling does not move along the line";
+    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes")
+        << "compiling does not move along the line";
 }
 
 } // namespace
