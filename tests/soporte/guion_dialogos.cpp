@@ -37,4 +37,42 @@ std::optional<std::string> GuionDialogos::Responder(const PeticionDialogo& petic
     return esperado.ruta;
 }
 
+GuionImpresoras::GuionImpresoras() {
+    anterior_ = InstalarImpresora([this](const PeticionImpresora& p) { return Responder(p); });
+}
+
+GuionImpresoras::~GuionImpresoras() {
+    InstalarImpresora(std::move(anterior_));
+    if (!esperados_.empty()) {
+        ADD_FAILURE() << esperados_.size() << " expected printer dialog(s) never shown";
+    }
+}
+
+GuionImpresoras& GuionImpresoras::Elegir(ImpresoraElegida impresora) {
+    esperados_.emplace_back(std::move(impresora));
+    return *this;
+}
+
+GuionImpresoras& GuionImpresoras::ElegirArchivo(const std::string& ruta) {
+    ImpresoraElegida impresora;
+    impresora.archivo = ruta;
+    return Elegir(impresora);
+}
+
+GuionImpresoras& GuionImpresoras::Cancelar() {
+    esperados_.emplace_back(std::nullopt);
+    return *this;
+}
+
+std::optional<ImpresoraElegida> GuionImpresoras::Responder(const PeticionImpresora& peticion) {
+    peticiones_.push_back(peticion);
+    if (esperados_.empty()) {
+        ADD_FAILURE() << "Unexpected printer dialog";
+        return std::nullopt;
+    }
+    std::optional<ImpresoraElegida> respuesta = std::move(esperados_.front());
+    esperados_.pop_front();
+    return respuesta;
+}
+
 } // namespace vadro::pruebas

@@ -36,4 +36,29 @@ private:
     FuncionDialogos anterior_;
 };
 
+// A script of the printer dialogs a test expects, in order: each is answered with a printer
+// (a test's printer is a PDF file) or with a cancel. An unexpected one fails the test and is
+// cancelled.
+class GuionImpresoras {
+public:
+    GuionImpresoras();
+    ~GuionImpresoras();
+    GuionImpresoras(const GuionImpresoras&) = delete;
+    GuionImpresoras& operator=(const GuionImpresoras&) = delete;
+
+    GuionImpresoras& Elegir(ImpresoraElegida impresora);
+    // The output into a PDF file, on the printer's own paper.
+    GuionImpresoras& ElegirArchivo(const std::string& ruta);
+    GuionImpresoras& Cancelar();
+
+    const std::vector<PeticionImpresora>& Peticiones() const { return peticiones_; }
+
+private:
+    std::optional<ImpresoraElegida> Responder(const PeticionImpresora& peticion);
+
+    std::deque<std::optional<ImpresoraElegida>> esperados_;
+    std::vector<PeticionImpresora> peticiones_;
+    FuncionImpresora anterior_;
+};
+
 } // namespace vadro::pruebas

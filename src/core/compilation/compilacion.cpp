@@ -1,6 +1,9 @@
 #include "core/compilation/compilacion.h"
 
 #include "core/compilation/comprobaciones.h"
+#include "core/core/error_ejecucion.h"
+#include "core/core/limite_fallos.h"
+#include "core/files/compilado.h"
 
 namespace vadro {
 
@@ -55,6 +58,25 @@ bool PreguntarCrearCompilado(const InformeErrores& informe) {
     const Respuesta respuesta =
         MsgBox(mensaje.texto, mensaje.botones, mensaje.icono, mensaje.titulo);
     return PermiteCompilado(desenlace) && respuesta == Respuesta::Si;
+}
+
+Mensaje MensajeFalloCompilado(int numero, const std::string& descripcion) {
+    return {TextoFallo(numero, descripcion), Botones::Aceptar, Icono::Ninguno, "VADRO PROGRAMADOR"};
+}
+
+bool ConcluirCompilacion(Sesion& sesion, const InformeErrores& informe) {
+    if (!PreguntarCrearCompilado(informe)) {
+        return false;
+    }
+    try {
+        return EscribirCompilado(sesion);
+    } catch (const ErrorEjecucion& error) {
+        if (error.Numero() != ErrCancelar) {
+            const Mensaje caja = MensajeFalloCompilado(error.Numero(), error.Descripcion());
+            MsgBox(caja.texto, caja.botones, caja.icono, caja.titulo);
+        }
+    }
+    return false;
 }
 
 } // namespace vadro

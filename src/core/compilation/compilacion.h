@@ -3,6 +3,7 @@
 #include "core/compilation/informe_errores.h"
 #include "core/core/mensajes.h"
 #include "core/core/registros.h"
+#include "core/core/sesion.h"
 
 #include <functional>
 
@@ -34,5 +35,14 @@ Mensaje MensajeDesenlace(DesenlaceCompilacion desenlace);
 // Shows that message; true only when the model is correct and the user wants the compiled
 // file.
 bool PreguntarCrearCompilado(const InformeErrores& informe);
+
+// What follows the shown report: that message and, when the user wants it, the writing of the
+// compiled file with its announcement. A failure of the writing is told in a plain box as its
+// number, ": " and its description; a cancelled dialog says nothing. True when the compiled
+// file was written.
+bool ConcluirCompilacion(Sesion& sesion, const InformeErrores& informe);
+
+// The plain box of a failure that ends the compilation's writing.
+Mensaje MensajeFalloCompilado(int numero, const std::string& descripcion);
 
 } // namespace vadro

@@ -7,6 +7,7 @@
 #include "core/core/error_ejecucion.h"
 
 #include <ctime>
+#include <exception>
 
 namespace vadro {
 
@@ -65,6 +66,32 @@ bool GuardarInformeCompilacion(const Sesion& sesion, const std::vector<std::stri
     }
     EscribirArchivo(*ruta, UnirLineas(lineas));
     return true;
+}
+
+PeticionImpresora PeticionImprimirInforme() {
+    return {ImpOcultarArchivo | ImpSinNumerosPagina | ImpSinSeleccion};
+}
+
+Mensaje MensajeFalloImpresion() {
+    return {"Ha ocurrido un error crítico. No ha sido posible realizar la impresión.",
+            Botones::Aceptar, Icono::Informacion, "VADRO PROGRAMADOR: imprimir modelo"};
+}
+
+bool ImprimirInformeCompilacion(const std::function<void(const ImpresoraElegida&)>& imprimir) {
+    bool fallo = false;
+    try {
+        imprimir(MostrarDialogoImpresora(PeticionImprimirInforme()));
+        return true;
+    } catch (const ErrorEjecucion& error) {
+        fallo = error.Numero() != ErrCancelar;
+    } catch (const std::exception&) {
+        fallo = true;
+    }
+    if (fallo) {
+        const Mensaje mensaje = MensajeFalloImpresion();
+        MsgBox(mensaje.texto, mensaje.botones, mensaje.icono, mensaje.titulo);
+    }
+    return false;
 }
 
 } // namespace vadro

@@ -69,4 +69,17 @@ FuncionDialogos InstalarDialogos(FuncionDialogos funcion) {
     return std::exchange(SesionActual().servicios.dialogos, std::move(funcion));
 }
 
+ImpresoraElegida MostrarDialogoImpresora(const PeticionImpresora& peticion) {
+    auto& funcion = SesionActual().servicios.impresora;
+    std::optional<ImpresoraElegida> elegida = funcion ? funcion(peticion) : std::nullopt;
+    if (!elegida) {
+        throw ErrorEjecucion(ErrCancelar);
+    }
+    return *elegida;
+}
+
+FuncionImpresora InstalarImpresora(FuncionImpresora funcion) {
+    return std::exchange(SesionActual().servicios.impresora, std::move(funcion));
+}
+
 } // namespace vadro

@@ -57,4 +57,37 @@ std::optional<std::string> ElegirArchivo(const PeticionDialogo& peticion);
 
 FuncionDialogos InstalarDialogos(FuncionDialogos funcion);
 
+// Flags of the printer dialog: the boxes it leaves out.
+enum FlagsImpresora : int {
+    ImpSinNumerosPagina = 0x2,
+    ImpSinSeleccion = 0x4,
+    ImpOcultarArchivo = 0x100,
+};
+
+struct PeticionImpresora {
+    int flags = 0;
+};
+
+// The printer the user chose and how: enough for the window layer to set up the same printer
+// again. A test chooses a file, where the output goes as PDF instead of to a printer.
+struct ImpresoraElegida {
+    std::string nombre;  // empty: the default printer
+    std::string archivo; // not empty: printed into this file
+    int copias = 1;
+    bool apaisado = false;
+    // The paper in points; zero keeps the printer's own.
+    double anchoPapel = 0;
+    double altoPapel = 0;
+    bool operator==(const ImpresoraElegida&) const = default;
+};
+
+// Answers a printer request with the chosen printer, or nothing when the user cancels.
+using FuncionImpresora = std::function<std::optional<ImpresoraElegida>(const PeticionImpresora&)>;
+
+// Shows the printer dialog through the service installed in the session. Cancelling is
+// reported to the command as the cancel error 32755, as without a service.
+ImpresoraElegida MostrarDialogoImpresora(const PeticionImpresora& peticion);
+
+FuncionImpresora InstalarImpresora(FuncionImpresora funcion);
+
 } // namespace vadro

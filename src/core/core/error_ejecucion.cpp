@@ -23,6 +23,7 @@ std::string DescripcionError(int numero) {
         {ErrAccesoRuta, "Error de acceso a la ruta o el archivo"},
         {ErrRutaNoEncontrada, "No se encontró la ruta de acceso"},
         {ErrFormatoArchivo, "Formato de archivo no válido"},
+        {ErrImpresora, "Error de impresora"},
         {ErrCancelar, "Se ha seleccionado Cancelar."},
     };
     const auto it = descripciones.find(numero);

@@ -25,6 +25,7 @@ enum CodigoError : int {
     ErrAccesoRuta = 75,
     ErrRutaNoEncontrada = 76,
     ErrFormatoArchivo = 321,
+    ErrImpresora = 482,
     ErrCancelar = 32755,
 };
 

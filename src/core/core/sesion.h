@@ -17,6 +17,7 @@ namespace vadro {
 struct Servicios {
     FuncionMensajes mensajes;
     FuncionDialogos dialogos;
+    FuncionImpresora impresora;
     // Called while a file is being written, before it takes the place of the target; a test
     // throws from it to see a save fail halfway.
     std::function<void(const std::string& ruta)> durante_escritura;

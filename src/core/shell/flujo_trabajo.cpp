@@ -236,13 +236,15 @@ Transicion TransicionCompilarAlFinal() {
 EfectoHija EfectoAlCargar(Hija hija) {
     switch (hija) {
     case Hija::Ejes:
-        return {true, -1};
+        return {true, -1, {}};
     case Hija::Requerimientos:
-        return {false, EtqRequerimientos};
+        return {false, EtqRequerimientos, {}};
     case Hija::Resumen:
-        return {false, EtqResumen};
+        return {false, EtqResumen, {}};
     case Hija::Informe:
-        return {false, -1};
+        return {false, -1, {}};
+    case Hija::Compilacion:
+        return {{}, -1, true};
     default:
         return {};
     }
@@ -251,11 +253,11 @@ EfectoHija EfectoAlCargar(Hija hija) {
 EfectoHija EfectoAlDescargar(Hija hija) {
     switch (hija) {
     case Hija::Ejes:
-        return {false, -1};
+        return {false, -1, {}};
     case Hija::Resumen:
-        return {true, EtqResumen};
+        return {true, EtqResumen, {}};
     case Hija::Informe:
-        return {true, -1};
+        return {true, -1, {}};
     default:
         return {};
     }

@@ -125,10 +125,13 @@ Transicion TransicionSaltoPonderacion();
 Transicion TransicionCompilarAlFinal();
 
 // What a child window does to the main window when it loads and when it unloads: the
-// background, and the step label it marks as the step in hand.
+// background, the step label it marks as the step in hand, and the toolbar's printing button.
+// The compilation window puts that button on while it is open, so that what it shows can be
+// printed; its unload leaves the button on, since the model report prints from it as well.
 struct EfectoHija {
     std::optional<bool> fondo;
     int etiquetaEnCurso = -1;
+    std::optional<bool> botonImprimir;
 };
 EfectoHija EfectoAlCargar(Hija hija);
 EfectoHija EfectoAlDescargar(Hija hija);

@@ -10,6 +10,9 @@
 #include <QHeaderView>
 #include <QLibraryInfo>
 #include <QMessageBox>
+#include <QPageLayout>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTranslator>
 #include <QTreeView>
@@ -128,6 +131,29 @@ std::optional<RespuestaDialogo> MostrarDialogoQt(const PeticionDialogo& peticion
                             static_cast<int>(filtros.indexOf(dialogo.selectedNameFilter())) + 1);
 }
 
+std::optional<ImpresoraElegida> MostrarImpresoraQt(const PeticionImpresora& peticion) {
+    QPrinter impresora;
+    QPrintDialog dialogo(&impresora, QApplication::activeWindow());
+    dialogo.setOption(QAbstractPrintDialog::PrintToFile, (peticion.flags & ImpOcultarArchivo) == 0);
+    dialogo.setOption(QAbstractPrintDialog::PrintPageRange,
+                      (peticion.flags & ImpSinNumerosPagina) == 0);
+    dialogo.setOption(QAbstractPrintDialog::PrintSelection,
+                      (peticion.flags & ImpSinSeleccion) == 0);
+    if (dialogo.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    ImpresoraElegida elegida;
+    elegida.nombre = ACadena(impresora.printerName());
+    elegida.archivo = ACadena(impresora.outputFileName());
+    elegida.copias = impresora.copyCount();
+    const QPageLayout pagina = impresora.pageLayout();
+    elegida.apaisado = pagina.orientation() == QPageLayout::Landscape;
+    const QSizeF papel = pagina.pageSize().size(QPageSize::Point);
+    elegida.anchoPapel = papel.width();
+    elegida.altoPapel = papel.height();
+    return elegida;
+}
+
 } // namespace
 
 QStringList FiltrosQt(const QString& filtro) {
@@ -160,6 +186,7 @@ bool CargarTraduccionQt() {
 void InstalarServiciosQt() {
     InstalarMensajes(MostrarMensajeQt);
     InstalarDialogos(MostrarDialogoQt);
+    InstalarImpresora(MostrarImpresoraQt);
 }
 
 } // namespace vadro

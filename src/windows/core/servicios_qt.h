@@ -4,7 +4,7 @@
 
 namespace vadro {
 
-// Shows the core's message boxes and file dialogs with Qt's.
+// Shows the core's message boxes, file dialogs and printer dialog with Qt's.
 void InstalarServiciosQt();
 
 // Qt's own dialogs and buttons speak Spanish: Qt's Spanish translation, from the folder

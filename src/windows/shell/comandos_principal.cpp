@@ -132,13 +132,6 @@ void frmPrincipal::Compilar() {
         return;
     }
     PintarEtiqueta(EtqCompilacion, QColor(0, 0, 0), false);
-    // The checks read the model: the open trees are written into it first.
-    if (frmRequerimientos* requerimientos = Abierta<frmRequerimientos>()) {
-        requerimientos->GuardarArbol();
-    }
-    if (frmComponentes* componentes = Abierta<frmComponentes>()) {
-        componentes->GuardarArbol();
-    }
     Descargar(Hija::Compilacion);
     Cargar(Hija::Compilacion);
 }

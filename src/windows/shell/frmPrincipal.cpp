@@ -703,6 +703,9 @@ void frmPrincipal::AplicarEfecto(const EfectoHija& efecto, bool alCargar) {
     if (efecto.fondo) {
         pctFondo->setVisible(*efecto.fondo);
     }
+    if (efecto.botonImprimir) {
+        tlbPrincipal->findChild<QAction*>(Q("Imprimir"))->setEnabled(*efecto.botonImprimir);
+    }
     if (efecto.etiquetaEnCurso >= 0) {
         if (alCargar) {
             PintarEtiqueta(efecto.etiquetaEnCurso, ColorNormal(), true);

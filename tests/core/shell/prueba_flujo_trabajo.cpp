@@ -105,6 +105,20 @@ TEST_F(FlujoTrabajo, ButtonsAndLabelsNameTheirCommands) {
     }
 }
 
+TEST_F(FlujoTrabajo, OnlyTheCompilationWindowPutsThePrintingButtonOnAndNoUnloadTakesItOff) {
+    for (Hija hija : {Hija::Ejes, Hija::Requerimientos, Hija::Componentes, Hija::Etapas,
+                      Hija::Resumen, Hija::Ponderacion, Hija::Informe, Hija::Compilacion}) {
+        SCOPED_TRACE(NombreHija(hija));
+        const EfectoHija carga = EfectoAlCargar(hija);
+        EXPECT_EQ(carga.botonImprimir,
+                  hija == Hija::Compilacion ? std::optional<bool>(true) : std::nullopt);
+        EXPECT_EQ(EfectoAlDescargar(hija).botonImprimir, std::nullopt);
+    }
+    const EfectoHija compilacion = EfectoAlCargar(Hija::Compilacion);
+    EXPECT_EQ(compilacion.fondo, std::nullopt) << "it opens over the window of the position";
+    EXPECT_EQ(compilacion.etiquetaEnCurso, -1);
+}
+
 TEST_F(FlujoTrabajo, ARefusedCloseReloadsOnlyTheWindowsOfThePosition) {
     const std::vector<Hija> abiertas = {Hija::Etapas, Hija::Ejes, Hija::Requerimientos,
                                         Hija::Compilacion};

@@ -3,11 +3,13 @@
 #include "core/core/archivos.h"
 #include "core/core/version.h"
 #include "soporte/guion_dialogos.h"
+#include "soporte/modelo_sano.h"
 #include "windows/core/frmInicio.h"
 #include "windows/core/modal.h"
 
 #include <QMenu>
 #include <QPushButton>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -139,14 +141,37 @@ TEST_F(Comandos, SaveAsAlwaysAsksAndKeepsTheCaptionWhenCancelled) {
 }
 
 TEST_F(Comandos, CompilingFromTheToolbarWorksAtEveryPosition) {
-    sesion().modelo.NumRequerimientos = 1;
+    const std::string correcta = "VADRO PROGRAMADOR: compilación correcta";
+    const std::string pregunta =
+        "El modelo no contiene errores.\n"
+        "Desea crear el archivo compilado (*.vdc) utilizable por el módulo VADRO USUARIO?";
+    sesion().modelo = pruebas::ModeloCorrecto();
+    mensajes.Esperar(correcta, pregunta, Respuesta::No);
     PulsarBoton("Compilar");
     EXPECT_EQ(Hijas(), Strings{"frmCompilacion"}) << "even before a model is open";
     NuevoModelo();
-    sesion().modelo.NumRequerimientos = 1;
+    sesion().modelo = pruebas::ModeloCorrecto();
     principal.cmdContinuar->click();
+    mensajes.Esperar(correcta, pregunta, Respuesta::No);
     PulsarBoton("Compilar");
     EXPECT_EQ(Hijas(), (Strings{"frmResumen", "frmCompilacion"}));
+}
+
+TEST_F(Comandos, TheCompilationWindowPutsThePrintingButtonOn) {
+    sesion().modelo = pruebas::ModeloCorrecto();
+    principal.findChild<QAction*>(QStringLiteral("Imprimir"))->setEnabled(false);
+    const bool antes = Habilitado(8);
+    mensajes.Esperar("VADRO PROGRAMADOR: compilación correcta",
+                     "El modelo no contiene errores.\nDesea crear el archivo compilado (*.vdc) "
+                     "utilizable por el módulo VADRO USUARIO?",
+                     Respuesta::No);
+    PulsarBoton("Compilar");
+    EXPECT_TRUE(principal.findChild<QAction*>(QStringLiteral("Imprimir"))->isEnabled());
+    EXPECT_EQ(Habilitado(8), antes) << "button 8 is Retroceder's, which compiling leaves";
+    QTest::mouseClick(Hijo<QPushButton>(*Hija("frmCompilacion"), "cmdCerrar"), Qt::LeftButton);
+    EXPECT_TRUE(Hijas().empty());
+    EXPECT_TRUE(principal.findChild<QAction*>(QStringLiteral("Imprimir"))->isEnabled())
+        << "the model report still prints from it";
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ventana_principal.h"
 
+#include "soporte/modelo_sano.h"
 #include "windows/trees/frmComponentes.h"
 #include "windows/trees/frmRequerimientos.h"
 
@@ -131,7 +132,12 @@ TEST_F(SaltosPanel, CompilationLabelRefusesAnEmptyModelAndKeepsItsColour) {
 
 TEST_F(SaltosPanel, CompilationPaintsItsLabelBlackAndOpensTheWindowAnew) {
     NuevoModelo();
-    sesion().modelo.NumRequerimientos = 2;
+    sesion().modelo = pruebas::ModeloCorrecto();
+    const std::string correcta = "VADRO PROGRAMADOR: compilación correcta";
+    const std::string pregunta =
+        "El modelo no contiene errores.\n"
+        "Desea crear el archivo compilado (*.vdc) utilizable por el módulo VADRO USUARIO?";
+    mensajes.Esperar(correcta, pregunta, Respuesta::No).Esperar(correcta, pregunta, Respuesta::No);
     PulsarEtiqueta(8);
     EXPECT_EQ(Color(8), QColor(0, 0, 0));
     EXPECT_FALSE(Negrita(8));

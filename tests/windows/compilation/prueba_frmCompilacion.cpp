@@ -1,0 +1,326 @@
+// The compilation window as a user works it: the report it shows on opening, the outcome and
+// the compiled file, saving and printing the report, the double click on a finding.
+
+#include "core/compilation/compilacion.h"
+#include "core/core/configuracion.h"
+#include "core/files/modelo_archivo.h"
+#include "core/shell/herramientas.h"
+#include "soporte/datos.h"
+#include "soporte/guion_dialogos.h"
+#include "soporte/guion_modales.h"
+#include "soporte/modelo_sano.h"
+#include "soporte/prueba_sesion.h"
+#include "soporte/volcado_ventana.h"
+#include "windows/compilation/frmCompilacion.h"
+#include "windows/compilation/frmOpcionesCompilacion.h"
+#include "windows/core/texto.h"
+
+#include <QCheckBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStyle>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <regex>
+#include <sstream>
+
+namespace vadro {
+namespace {
+
+using pruebas::Hijo;
+namespace fs = std::filesystem;
+
+const std::string kCorrecta = "VADRO PROGRAMADOR: compilación correcta";
+const std::string kPregunta =
+    "El modelo no contiene errores.\n"
+    "Desea crear el archivo compilado (*.vdc) utilizable por el módulo VADRO USUARIO?";
+const std::string kIncorrecta = "VADRO PROGRAMADOR: compilación incorrecta";
+const std::string kErrores = "El modelo contiene errores.\nCorríjalos para poder crear el "
+                             "archivo utilizable por el módulo VADRO USUARIO.";
+
+// A sound model with two warnings: no stages, and a criterion with one indicator only.
+Modelo ConAvisos() {
+    Modelo modelo = pruebas::ModeloCorrecto();
+    modelo.Nombre = "Depuradora";
+    modelo.NumEtapas = "";
+    NodoCriterio& empleo = modelo.Requerimientos(2).Criterios(1);
+    empleo.NumIndicadores = 1;
+    empleo.Indicadores(1).Peso = 100.0;
+    return modelo;
+}
+
+// Warnings and two errors: a requirement without weight and an indicator without function.
+Modelo ConErrores() {
+    Modelo modelo = ConAvisos();
+    modelo.Requerimientos(2).Peso = "";
+    modelo.Requerimientos(2).Criterios(2).Indicadores(2).Funcion = FuncionValor();
+    return modelo;
+}
+
+// The text of the `vadro-herramientas texto` command on a file: its plain model text.
+std::string TextoDe(const std::string& ruta) {
+    std::istringstream entrada;
+    std::ostringstream salida, error;
+    EXPECT_EQ(EjecutarHerramientas({"texto", ruta}, entrada, salida, error), 0) << error.str();
+    return salida.str();
+}
+
+class VentanaCompilacion : public pruebas::PruebaSesion {
+protected:
+    // Opens the window as the main window does: it shows itself and the opening runs.
+    frmCompilacion& Abrir() {
+        ventana = std::make_unique<frmCompilacion>();
+        ventana->resize(640, 480);
+        ventana->show();
+        return *ventana;
+    }
+    std::vector<std::string> Lineas() const {
+        std::vector<std::string> lineas;
+        for (int i = 0; i < ventana->lstErrores->count(); ++i) {
+            lineas.push_back(ACadena(ventana->lstErrores->item(i)->text()));
+        }
+        return lineas;
+    }
+    int Fila(const std::string& linea) const {
+        const auto lineas = Lineas();
+        const auto it = std::find(lineas.begin(), lineas.end(), linea);
+        return it == lineas.end() ? -1 : static_cast<int>(it - lineas.begin());
+    }
+    void DobleClic(int fila) {
+        QListWidget* lista = ventana->lstErrores;
+        QListWidgetItem* item = lista->item(fila);
+        lista->scrollToItem(item);
+        const QPoint punto = lista->visualItemRect(item).center();
+        QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, punto);
+        QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, punto);
+    }
+
+    pruebas::GuionDialogos dialogos;
+    pruebas::GuionImpresoras impresoras;
+    std::unique_ptr<frmCompilacion> ventana;
+};
+
+TEST_F(VentanaCompilacion, ErrorsAndWarningsShowWithTheirIconsAndTheKeysStayHiddenBeside) {
+    sesion().modelo = ConErrores();
+    mensajes.Esperar(kIncorrecta, kErrores);
+    Abrir();
+    const InformeErrores informe = ComprobarModelo(sesion().modelo);
+    ASSERT_EQ(Lineas(), informe.Lineas());
+    EXPECT_EQ(Lineas().at(0), "AVISOS TOTALES: 2");
+    EXPECT_EQ(Lineas().at(1), "ERRORES TOTALES: 2");
+    EXPECT_FALSE(ventana->lstClaves->isVisible());
+    ASSERT_EQ(ventana->lstClaves->count(), ventana->lstErrores->count());
+    const qint64 error =
+        ventana->style()->standardIcon(QStyle::SP_MessageBoxCritical).pixmap(16).cacheKey();
+    const qint64 aviso =
+        ventana->style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(16).cacheKey();
+    int errores = 0;
+    int avisos = 0;
+    for (int i = 0; i < ventana->lstErrores->count(); ++i) {
+        SCOPED_TRACE(Lineas()[static_cast<std::size_t>(i)]);
+        EXPECT_EQ(ACadena(ventana->lstClaves->item(i)->text()),
+                  informe.Claves()[static_cast<std::size_t>(i)]);
+        const QIcon icono = ventana->lstErrores->item(i)->icon();
+        switch (IconoDeLinea(Lineas()[static_cast<std::size_t>(i)])) {
+        case IconoLinea::Error:
+            ++errores;
+            EXPECT_FALSE(icono.isNull());
+            EXPECT_NE(icono.pixmap(16).cacheKey(), aviso);
+            break;
+        case IconoLinea::Aviso:
+            ++avisos;
+            EXPECT_FALSE(icono.isNull());
+            EXPECT_NE(icono.pixmap(16).cacheKey(), error);
+            break;
+        case IconoLinea::Ninguno:
+            EXPECT_TRUE(icono.isNull());
+            break;
+        }
+    }
+    EXPECT_EQ(errores, 2);
+    EXPECT_EQ(avisos, 2);
+    EXPECT_TRUE(dialogos.Peticiones().empty()) << "no compiled file for a model with errors";
+}
+
+TEST_F(VentanaCompilacion, WarningsOnlyLeadToACompiledFileThatReadsAsTheModelsText) {
+    sesion().modelo = ConAvisos();
+    const std::string vdc = Ruta("depuradora.vdc");
+    dialogos.Elegir("Guardar modelo compilado como...", vdc);
+    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::Si)
+        .Esperar(kCorrecta, "Se ha creado el archivo compilado " + vdc +
+                                "\nEste archivo será utilizable por el módulo VADRO USUARIO.");
+    Abrir();
+    ASSERT_TRUE(fs::exists(vdc));
+    EXPECT_TRUE(sesion().modelo.Compilado);
+    // The same model saved as a model file gives the same text.
+    Modelo copia = sesion().modelo;
+    ASSERT_TRUE(GuardarModelo(copia, Ruta("depuradora.vdm"), false));
+    const std::string texto = TextoDe(vdc);
+    EXPECT_NE(texto.find("Depuradora"), std::string::npos);
+    EXPECT_EQ(texto, TextoDe(Ruta("depuradora.vdm")));
+    EXPECT_NE(Contenido(vdc), texto) << "the compiled file is scrambled";
+}
+
+TEST_F(VentanaCompilacion, TheSavedReportHasItsFiveLinesThenTheReportWithTheWarningsFirst) {
+    sesion().modelo = ConAvisos();
+    sesion().modelo.Archivo = Ruta("depuradora.vdm");
+    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::No);
+    Abrir();
+    const std::string log = Ruta("informe.log");
+    dialogos.Elegir("Guardar informe de compilación...", log);
+    QTest::mouseClick(ventana->cmdGuardar, Qt::LeftButton);
+    EXPECT_EQ(dialogos.Peticiones().back().nombreArchivo, "depuradora");
+    std::string bytes = Contenido(log);
+    const std::regex fecha("Fecha de compilado: [^\r]*\\d[^\r]*\r\n");
+    EXPECT_TRUE(std::regex_search(bytes, fecha));
+    bytes = std::regex_replace(bytes, fecha, "Fecha de compilado: (fecha)\r\n",
+                               std::regex_constants::format_first_only);
+    EXPECT_EQ(bytes, pruebas::Datos("compilacion/informe_avisos.log", bytes));
+
+    fs::remove(log);
+    dialogos.Cancelar("Guardar informe de compilación...");
+    QTest::mouseClick(ventana->cmdGuardar, Qt::LeftButton);
+    EXPECT_FALSE(fs::exists(log)) << "a cancelled dialog writes nothing and says nothing";
+}
+
+// The pages of a PDF file, each a page object.
+int PaginasPdf(const std::string& ruta) {
+    std::ifstream archivo(ruta, std::ios::binary);
+    const std::string pdf((std::istreambuf_iterator<char>(archivo)),
+                          std::istreambuf_iterator<char>());
+    const std::regex pagina("/Type\\s*/Page[^s]");
+    return static_cast<int>(std::distance(std::sregex_iterator(pdf.begin(), pdf.end(), pagina),
+                                          std::sregex_iterator()));
+}
+
+TEST_F(VentanaCompilacion, TheReportPrintsOnTheChosenPrinterAndAFailureIsToldAsCritical) {
+    sesion().modelo = ConErrores();
+    mensajes.Esperar(kIncorrecta, kErrores);
+    Abrir();
+    impresoras.ElegirArchivo(Ruta("informe.pdf"));
+    QTest::mouseClick(ventana->cmdImprimir, Qt::LeftButton);
+    EXPECT_EQ(impresoras.Peticiones().back().flags, 0x106);
+    EXPECT_EQ(PaginasPdf(Ruta("informe.pdf")), 1) << "some fifty lines fit one page";
+
+    impresoras.Cancelar();
+    QTest::mouseClick(ventana->cmdImprimir, Qt::LeftButton);
+
+    impresoras.ElegirArchivo(Ruta("no/existe/informe.pdf"));
+    mensajes.Esperar("VADRO PROGRAMADOR: imprimir modelo",
+                     "Ha ocurrido un error crítico. No ha sido posible realizar la impresión.");
+    QTest::mouseClick(ventana->cmdImprimir, Qt::LeftButton);
+    EXPECT_EQ(mensajes.Vistos().back().icono, Icono::Informacion);
+}
+
+TEST_F(VentanaCompilacion, ADoubleClickOnAFindingSendsItsKeyAndOnAnyOtherLineNothing) {
+    sesion().modelo = ConErrores();
+    mensajes.Esperar(kIncorrecta, kErrores);
+    Abrir();
+    QSignalSpy claves(ventana.get(), &frmCompilacion::IrAError);
+    struct Caso {
+        std::string linea;
+        const char* clave; // empty: nothing is sent
+    };
+    const Caso casos[] = {
+        {"     Error: el nodo R2 tiene peso nulo", "PesNul R2"},
+        {"     Aviso: no se han definido etapas del ciclo de vida", "SinEta"},
+        {"     Error: el nodo I2C2R2 no tiene funcion de valor asignada", "FunVal I2C2R2"},
+        {"     Aviso: el nodo C1R2 solo tiene un indicador", "SinHij C1R2"},
+        {"AVISOS TOTALES: 2", ""},
+        {"COMPROBACION DE PESOS NULOS", ""},
+        {"** nivel de criterios **", ""},
+        {"     <sin errores>", ""},
+        {"", ""},
+    };
+    for (const Caso& caso : casos) {
+        SCOPED_TRACE(caso.linea);
+        const int fila = Fila(caso.linea);
+        ASSERT_GE(fila, 0);
+        claves.clear();
+        DobleClic(fila);
+        if (*caso.clave == '\0') {
+            EXPECT_EQ(claves.count(), 0);
+        } else {
+            ASSERT_EQ(claves.count(), 1);
+            EXPECT_EQ(claves.at(0).at(0).toString().toStdString(), caso.clave);
+        }
+    }
+    EXPECT_TRUE(ventana->Cargado) << "the report stays";
+}
+
+TEST_F(VentanaCompilacion, CerrarUnloadsTheWindow) {
+    sesion().modelo = ConAvisos();
+    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::No);
+    Abrir();
+    QSignalSpy descargada(ventana.get(), &VentanaHija::Descargada);
+    QTest::mouseClick(ventana->cmdCerrar, Qt::LeftButton);
+    EXPECT_FALSE(ventana->Cargado);
+    EXPECT_EQ(descargada.count(), 1);
+}
+
+TEST_F(VentanaCompilacion, AShowingAgainDoesNotCompileAgain) {
+    sesion().modelo = ConAvisos();
+    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::No);
+    Abrir();
+    ventana->hide();
+    ventana->show();
+    EXPECT_EQ(mensajes.Vistos().size(), 1U);
+}
+
+TEST_F(VentanaCompilacion, WidgetTree) {
+    sesion().modelo = ConAvisos();
+    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::No);
+    pruebas::CompararVolcado(Abrir(), "frmCompilacion");
+}
+
+// Not a check: pictures of the window at the small and the large font, for the eye.
+TEST_F(VentanaCompilacion, Capturas) {
+    const char* carpeta = std::getenv("VADRO_CAPTURAS");
+    if (carpeta == nullptr) {
+        GTEST_SKIP() << "VADRO_CAPTURAS names the folder of the pictures";
+    }
+    sesion().modelo = ConErrores();
+    for (int tamano : {0, 2}) {
+        sesion().configuracion.TamanoFuente = tamano;
+        mensajes.Esperar(kIncorrecta, kErrores);
+        Abrir();
+        ventana->resize(760, 560);
+        ventana->AjustarControles();
+        ventana->grab().save(
+            Q(std::string(carpeta) + "/frmCompilacion_" + std::to_string(tamano) + ".png"));
+    }
+}
+
+// ---- The options dialog, which nothing in the program opens
+
+TEST_F(VentanaCompilacion, TheOptionsShowAndSetWhetherTheTreeIsShown) {
+    for (bool antes : {false, true}) {
+        sesion().modelo.MostrarArbol = antes;
+        frmOpcionesCompilacion opciones;
+        EXPECT_EQ(opciones.chkMostrarArbol->isChecked(), antes);
+        EXPECT_TRUE(opciones.Cargado);
+        opciones.show();
+        QTest::mouseClick(opciones.chkMostrarArbol, Qt::LeftButton);
+        QTest::mouseClick(opciones.cmdAceptar, Qt::LeftButton);
+        EXPECT_EQ(sesion().modelo.MostrarArbol, !antes);
+        EXPECT_FALSE(opciones.Cargado);
+        EXPECT_EQ(opciones.result(), QDialog::Accepted);
+    }
+    const Modelo modelo = ConAvisos();
+    sesion().modelo = modelo;
+    sesion().modelo.MostrarArbol = true;
+    EXPECT_EQ(ComprobarModelo(sesion().modelo).Lineas(), ComprobarModelo(modelo).Lineas())
+        << "the option changes nothing in the report";
+    frmOpcionesCompilacion opciones;
+    pruebas::CompararVolcado(opciones, "frmOpcionesCompilacion");
+}
+
+} // namespace
+} // namespace vadro

@@ -1,0 +1,137 @@
+// The printing of a list: its lines paged on the printer, counted in the pages of a PDF file.
+
+#include "core/core/error_ejecucion.h"
+#include "soporte/errores.h"
+#include "soporte/prueba_sesion.h"
+#include "windows/core/texto.h"
+#include "windows/reports/impresion.h"
+
+#include <QListWidget>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QTreeWidget>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <regex>
+
+namespace vadro {
+namespace {
+
+int PaginasPdf(const std::string& ruta) {
+    std::ifstream archivo(ruta, std::ios::binary);
+    const std::string pdf((std::istreambuf_iterator<char>(archivo)),
+                          std::istreambuf_iterator<char>());
+    const std::regex pagina("/Type\\s*/Page[^s]");
+    return static_cast<int>(std::distance(std::sregex_iterator(pdf.begin(), pdf.end(), pagina),
+                                          std::sregex_iterator()));
+}
+
+class ImpresionLista : public pruebas::PruebaSesion {
+protected:
+    // Prints a list of so many short lines on A4 into a PDF file; its pages.
+    int Imprimir(int lineas, bool apaisado = false) {
+        QListWidget lista;
+        for (int i = 1; i <= lineas; ++i) {
+            lista.addItem(Q("     Error: línea " + std::to_string(i)));
+        }
+        return ImprimirEn(lista, apaisado);
+    }
+    int ImprimirEn(const QAbstractItemView& lista, bool apaisado = false) {
+        const std::string ruta = Ruta("lista" + std::to_string(++impresiones) + ".pdf");
+        {
+            QPdfWriter pdf(Q(ruta));
+            pdf.setPageSize(QPageSize(QPageSize::A4));
+            pdf.setPageOrientation(apaisado ? QPageLayout::Landscape : QPageLayout::Portrait);
+            ImprimirLista(lista, pdf);
+        }
+        return PaginasPdf(ruta);
+    }
+    int PorPagina(bool apaisado = false) {
+        QPdfWriter pdf(Q(Ruta("medida.pdf")));
+        pdf.setPageSize(QPageSize(QPageSize::A4));
+        pdf.setPageOrientation(apaisado ? QPageLayout::Landscape : QPageLayout::Portrait);
+        return LineasPorPagina(pdf);
+    }
+    int impresiones = 0;
+};
+
+TEST_F(ImpresionLista, APageOfA4HoldsTheLinesOfItsHeightWithinTheMargins) {
+    // 297 mm less 38.8 mm of margins, at a 10-point font of about 4.4 mm a line.
+    const int alto = PorPagina();
+    EXPECT_GE(alto, 45);
+    EXPECT_LE(alto, 65);
+    const int ancho = PorPagina(true);
+    EXPECT_LT(ancho, alto) << "a landscape page is lower";
+    EXPECT_GE(ancho, 28);
+}
+
+TEST_F(ImpresionLista, TheLinesFillPageAfterPage) {
+    const int n = PorPagina();
+    struct Caso {
+        int lineas;
+        int paginas;
+    };
+    for (const Caso caso :
+         {Caso{0, 1}, Caso{1, 1}, Caso{n, 1}, Caso{n + 1, 2}, Caso{3 * n, 3}, Caso{3 * n + 1, 4}}) {
+        EXPECT_EQ(Imprimir(caso.lineas), caso.paginas) << caso.lineas << " lines";
+    }
+    EXPECT_EQ(Imprimir(n + 1, true), 2 + (n + 1 > 2 * PorPagina(true) ? 1 : 0));
+}
+
+TEST_F(ImpresionLista, ShownColumnHeadingsTakeALineOfEveryPage) {
+    const int n = PorPagina();
+    QTreeWidget arbol;
+    arbol.setColumnCount(2);
+    arbol.setHeaderLabels({Q("Nodo"), Q("Peso")});
+    for (int i = 1; i <= n; ++i) {
+        arbol.addTopLevelItem(new QTreeWidgetItem({Q("I" + std::to_string(i)), Q("0.50")}));
+    }
+    EXPECT_EQ(ImprimirEn(arbol), 2) << "with the headings a full list no longer fits";
+    arbol.setHeaderHidden(true);
+    EXPECT_EQ(ImprimirEn(arbol), 1);
+}
+
+TEST_F(ImpresionLista, ALongLineWrapsAndTakesTheLinesItNeeds) {
+    const int n = PorPagina();
+    QListWidget lista;
+    std::string larga;
+    for (int i = 0; i < 60; ++i) {
+        larga += "palabra ";
+    }
+    lista.addItem(Q(larga));
+    for (int i = 1; i < n; ++i) {
+        lista.addItem(Q("linea"));
+    }
+    EXPECT_EQ(ImprimirEn(lista), 2) << "the long first line takes more than one line";
+}
+
+TEST_F(ImpresionLista, APrinterThatCannotStartIsAPrinterError) {
+    QListWidget lista;
+    lista.addItem(Q("linea"));
+    ImpresoraElegida elegida;
+    elegida.archivo = Ruta("no/existe/lista.pdf");
+    const auto impresora = CrearImpresora(elegida);
+    EXPECT_EQ(pruebas::NumeroDeError([&] { ImprimirLista(lista, *impresora); }), ErrImpresora);
+}
+
+TEST_F(ImpresionLista, TheChosenPrinterIsSetUpAsItWasChosen) {
+    ImpresoraElegida elegida;
+    elegida.archivo = Ruta("carta.pdf");
+    elegida.copias = 2;
+    elegida.apaisado = true;
+    elegida.anchoPapel = 612;
+    elegida.altoPapel = 792;
+    const auto impresora = CrearImpresora(elegida);
+    EXPECT_EQ(impresora->outputFormat(), QPrinter::PdfFormat);
+    EXPECT_EQ(ACadena(impresora->outputFileName()), elegida.archivo);
+    EXPECT_EQ(impresora->copyCount(), 2);
+    EXPECT_EQ(impresora->pageLayout().orientation(), QPageLayout::Landscape);
+    EXPECT_EQ(impresora->pageLayout().pageSize().id(), QPageSize::Letter);
+}
+
+} // namespace
+} // namespace vadro
