@@ -66,7 +66,14 @@ std::string Utf8(const fs::path& ruta) {
 
 std::string NombreTemporal(const fs::path& destino) {
     static std::mt19937 azar{std::random_device{}()};
-    return "." + Utf8(destino.filename()) + "." + std::to_string(azar() % 1000000) + ".tmp";
+    // Appended piece by piece: GCC 12 warns (-Wrestrict, a known false positive) on a literal
+    // added to a temporary string.
+    std::string nombre(1, '.');
+    nombre += Utf8(destino.filename());
+    nombre += '.';
+    nombre += std::to_string(azar() % 1000000);
+    nombre += ".tmp";
+    return nombre;
 }
 
 } // namespace

@@ -66,7 +66,15 @@ bool GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
     ArchivoSalida salida;
     EscribirCabecera(modelo, salida, indice);
     // The requirements show their own failure, and the model goes on without the rest of them.
-    GuardarRequerimientos(modelo, salida, indice);
+    // A save abandoned in a function's retry box leaves the previous file and Modificado.
+    try {
+        GuardarRequerimientos(modelo, salida, indice);
+    } catch (const ErrorEjecucion& error) {
+        if (error.Numero() == ErrCancelar) {
+            return false;
+        }
+        throw;
+    }
     // The components and stages writers have no trap: their failures go up to the caller.
     GuardarComponentes(modelo, salida, indice);
     GuardarEtapas(modelo, salida, indice);

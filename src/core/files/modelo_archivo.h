@@ -15,7 +15,7 @@ void LeerCabecera(Modelo& modelo, ArchivoEntrada& archivo, const std::string& in
 // Writes the complete model: the header, then the sections. With `anadir` the text is
 // appended as plain text; otherwise it replaces the file, scrambled. A failure to write the file
 // is shown to the user and the model keeps its `Modificado`: the result says whether the file
-// was written.
+// was written; so does a save the user abandoned in a retry box, which writes nothing.
 bool GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
                    const std::string& indice = {});
 

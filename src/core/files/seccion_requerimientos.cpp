@@ -216,7 +216,11 @@ bool GuardarRequerimientos(Modelo& modelo, ArchivoSalida& salida, const std::str
     try {
         EscritorRequerimientos(salida, indice).Escribir(modelo);
         return true;
-    } catch (const ErrorEjecucion&) {
+    } catch (const ErrorEjecucion& error) {
+        // A save the user abandoned in a function's retry box writes nothing at all.
+        if (error.Numero() == ErrCancelar) {
+            throw;
+        }
         MostrarFalloGuardado();
         return false;
     }

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
+#include <regex>
 
 namespace vadro {
 namespace {
@@ -145,6 +147,93 @@ TEST_F(ModeloConRequerimientos, TwoModelsShareAFileUnderTheirPrefixes) {
     CargarModelo(leidoB, archivo, "B");
     EXPECT_EQ(leidoA.Requerimientos(1).Criterios(1).Indicadores(1).Funcion.K, ValorLibre(0.5));
     EXPECT_EQ(leidoB.Requerimientos(1).Criterios(1), b.Requerimientos(1).Criterios(1));
+}
+
+// The complete model with components and stages, so that every section has lines to lose.
+Modelo ModeloConTodo() {
+    Modelo m = ModeloCompleto();
+    m.Nombre = "Planta";
+    m.Descripcion = "Depuradora";
+    m.NumComponentes = 1;
+    m.Componentes.Redimensionar(1);
+    m.Componentes(1).Nombre = "Obra civil";
+    m.Componentes(1).NumSubcomponentes = 1;
+    m.Componentes(1).Subcomponentes.Redimensionar(1);
+    m.Componentes(1).Subcomponentes(1).Nombre = "Cimientos";
+    m.NumEtapas = 2;
+    m.Etapas.Redimensionar(2);
+    m.Etapas(1) = "Diseño";
+    m.Etapas(2) = "Obra";
+    return m;
+}
+
+// The components and stages readers trap a count that is no number (a missing "CMP_C1_NUM"
+// converts the empty text): their message, and an empty list, is how such a file loads.
+class SinLineas : public ModeloConRequerimientos {
+protected:
+    SinLineas() {
+        anterior_ = InstalarMensajes([this](const Mensaje& mensaje) {
+            const bool trampa = mensaje.titulo == "VADRO: Error." &&
+                                mensaje.texto.rfind("Fichero no válido", 0) == 0;
+            EXPECT_TRUE(trampa) << mensaje.texto;
+            trampas += trampa ? 1 : 0;
+            return PrimerBoton(mensaje.botones);
+        });
+    }
+    ~SinLineas() override { InstalarMensajes(anterior_); }
+
+    int trampas = 0;
+
+private:
+    FuncionMensajes anterior_;
+};
+
+TEST_F(SinLineas, AFileWithAnyOneLineRemovedLoadsWithThatValueEmpty) {
+    Modelo m = ModeloConTodo();
+    GuardarModelo(m, ruta, false);
+    const Lineas completo = LineasDelArchivo();
+    // Lines whose loss leaves only their own value empty: texts and scaled numbers. ("_P" is not
+    // one: its key is the start of "_PTN_NUM", whose value it then reads.)
+    const std::regex propio("(MOD_(APL|NOM|DAT|POR|VER|LOC|REF|DSC|FCP|EJX|EJY|EJZ)|.*_(NOM|DSC|"
+                            "UNI|PSO|STY[0-9]+|DIR|RMN|RMX|C|K|VAL|VLN|VLS|MIN|MAX)|ETA_NOM[0-9]+)"
+                            " = .*");
+    int propias = 0;
+    for (std::size_t i = 0; i < completo.size(); ++i) {
+        Lineas sin = completo;
+        sin.erase(sin.begin() + static_cast<long>(i));
+        Escribir(ruta, TextoProtegido(sin));
+        Modelo leido;
+        const int antes = trampas;
+        ASSERT_NO_THROW(CargarModelo(leido, ruta)) << completo[i];
+        EXPECT_EQ(trampas - antes, completo[i].rfind("CMP_C1_NUM", 0) == 0 ? 1 : 0) << completo[i];
+        GuardarModelo(leido, ruta, false);
+        if (completo[i].rfind("*****", 0) == 0) {
+            EXPECT_EQ(LineasDelArchivo(), completo) << "markers are never looked for";
+        } else if (std::regex_match(completo[i], propio)) {
+            Lineas esperado = completo;
+            esperado[i] = completo[i].substr(0, completo[i].find(" = ") + 3);
+            EXPECT_EQ(LineasDelArchivo(), esperado) << completo[i];
+            ++propias;
+        }
+    }
+    EXPECT_GT(propias, 60) << "most lines of a model are texts and numbers";
+}
+
+TEST_F(SinLineas, AFileWithAnySetOfLinesRemovedLoads) {
+    Modelo m = ModeloConTodo();
+    GuardarModelo(m, ruta, false);
+    const Lineas completo = LineasDelArchivo();
+    std::mt19937 azar(5);
+    for (const unsigned porCiento : {5u, 30u, 70u, 95u}) {
+        for (int vuelta = 0; vuelta < 25; ++vuelta) {
+            Lineas sin;
+            std::copy_if(completo.begin(), completo.end(), std::back_inserter(sin),
+                         [&](const std::string&) { return azar() % 100 >= porCiento; });
+            Escribir(ruta, TextoProtegido(sin));
+            Modelo leido;
+            EXPECT_NO_THROW(CargarModelo(leido, ruta)) << porCiento << "% removed";
+        }
+    }
 }
 
 } // namespace
