@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace vadro {
@@ -72,9 +73,17 @@ std::optional<Tramo> BuscarSeccion(const std::vector<std::string>& lineas,
 
 // The lines of the file; a missing file has none. A file that is there but cannot be read
 // gives nothing, so that a write never replaces what it could not see.
+// A file in UTF-16 or with a byte-order mark is left alone: its lines are not 8-bit text, and a
+// key written into it would be in another encoding.
 std::optional<std::vector<std::string>> LineasDe(const std::string& archivo) {
     try {
-        return DividirLineas(LeerArchivo(archivo));
+        const std::string bytes = LeerArchivo(archivo);
+        const std::string_view inicio = std::string_view(bytes).substr(0, 3);
+        if (inicio == "\xEF\xBB\xBF" || inicio.substr(0, 2) == "\xFF\xFE" ||
+            inicio.substr(0, 2) == "\xFE\xFF" || bytes.find('\0') != std::string::npos) {
+            return std::nullopt;
+        }
+        return DividirLineas(bytes);
     } catch (const ErrorEjecucion& error) {
         if (error.Numero() == ErrArchivoNoEncontrado) {
             return std::vector<std::string>{};

@@ -20,7 +20,8 @@ bool GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
                    const std::string& indice = {});
 
 // Reads a complete file on its own. A failure the section readers do not catch goes up to
-// the caller as a runtime error; an empty or unknown file gives an empty model.
+// the caller as a runtime error whose description names the file (memory exhaustion is
+// "Memoria insuficiente", 7); an empty or unknown file gives an empty model.
 void CargarModelo(Modelo& modelo, const std::string& ruta, const std::string& indice = {});
 
 // Reads a model from a file the caller holds open, from its current position.
