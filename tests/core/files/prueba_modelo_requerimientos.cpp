@@ -1,4 +1,5 @@
 #include "core/core/archivos.h"
+#include "core/core/error_ejecucion.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
 #include "funciones_prueba.h"
@@ -234,6 +235,65 @@ TEST_F(SinLineas, AFileWithAnySetOfLinesRemovedLoads) {
             EXPECT_NO_THROW(CargarModelo(leido, ruta)) << porCiento << "% removed";
         }
     }
+}
+
+TEST_F(ModeloConRequerimientos, ANumberTheReaderCannotReadIsRefusedAtTheSave) {
+    Escribir(ruta, "antes");
+    Modelo m = ModeloCompleto();
+    m.Modificado = true;
+    m.Requerimientos(1).Peso = 1e303; // a million times it is no finite number
+    mensajes.Esperar("VADRO: Error ", "Error 6 al guardar el modelo.\n\rDesbordamiento");
+    EXPECT_FALSE(GuardarModelo(m, ruta, false));
+    EXPECT_TRUE(m.Modificado);
+    EXPECT_EQ(Contenido(ruta), "antes");
+}
+
+TEST_F(ModeloConRequerimientos, TheTemporaryFileIsNeverTheFileRead) {
+    const std::string propio = Ruta("m.$$$"); // the program directory holds it
+    Modelo m = ModeloCompleto();
+    GuardarModelo(m, propio, false);
+    const std::string bytes = Contenido(propio);
+    EXPECT_NE(RutaTemporal(propio), propio);
+    Modelo leido;
+    CargarModelo(leido, propio);
+    EXPECT_EQ(leido.Requerimientos(1).Nombre, "Nodo R1");
+    EXPECT_EQ(Contenido(propio), bytes) << "read, not overwritten nor deleted";
+}
+
+// Truncated at any byte, or bytes of no model at all: the load ends, with the model or with a
+// runtime error that names the file; never another failure.
+TEST_F(SinLineas, TruncatedBinaryAndHugeCountFilesLoadOrFailWithARuntimeError) {
+    Modelo m = ModeloConTodo();
+    GuardarModelo(m, ruta, false);
+    const std::string completo = Contenido(ruta);
+    std::mt19937 azar(9);
+    std::vector<std::string> entradas;
+    for (std::size_t corte = 0; corte < completo.size(); corte += 1 + azar() % 97) {
+        entradas.push_back(completo.substr(0, corte));
+    }
+    for (int i = 0; i < 20; ++i) {
+        std::string binario(azar() % 5000, '\0');
+        for (char& b : binario) {
+            b = static_cast<char>(azar());
+        }
+        entradas.push_back(binario);
+    }
+    entradas.push_back(UnirLineas({"*****MODELO*****", "REQ_NUMR =  30000 "}));
+    entradas.push_back(UnirLineas({"*****MODELO*****", "REQ_NUMR =  1 ", "REQ_R1_NUMC =  1 ",
+                                   "REQ_C1R1_NUMI =  1 ", "FUN_I1C1R1_TIP = fEscalon",
+                                   "FUN_I1C1R1_ESC_NUM =  32767 "}));
+    int errores = 0;
+    for (const std::string& bytes : entradas) {
+        Escribir(ruta, bytes);
+        Modelo leido;
+        try {
+            CargarModelo(leido, ruta);
+        } catch (const ErrorEjecucion& error) {
+            ++errores;
+            EXPECT_NE(error.Descripcion().find(ruta), std::string::npos) << error.Descripcion();
+        }
+    }
+    EXPECT_GE(errores, 1) << "30000 requirements at least (32767 steps fit the margin)";
 }
 
 } // namespace
