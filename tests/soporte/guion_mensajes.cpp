@@ -30,7 +30,9 @@ Respuesta GuionMensajes::Responder(const Mensaje& mensaje) {
     vistos_.push_back(mensaje);
     if (esperados_.empty()) {
         ADD_FAILURE() << "Unexpected message: [" << mensaje.titulo << "] " << mensaje.texto;
-        return PrimerBoton(mensaje.botones);
+        // A retry box answered by its first button would ask again for ever.
+        return mensaje.botones == Botones::ReintentarCancelar ? Respuesta::Cancelar
+                                                              : PrimerBoton(mensaje.botones);
     }
     Esperado esperado = std::move(esperados_.front());
     esperados_.pop_front();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,11 +14,20 @@ std::string UnirRuta(const std::string& directorio, const std::string& nombre);
 
 bool ExisteArchivo(const std::string& ruta);
 
-// The bytes of a file. A missing file is runtime error 53; a file that cannot be read, 75.
+// Far more than any model: a larger file is refused before it is read.
+inline constexpr std::uintmax_t kLargoMaximoArchivo = std::uintmax_t{1} << 30;
+
+// The bytes of a file. A missing file is runtime error 53; what is not a regular file (a folder,
+// a device, a pipe) or cannot be read, 75 (70 without permission); a file larger than
+// kLargoMaximoArchivo, or one that memory does not hold, "Memoria insuficiente" (7).
 std::string LeerArchivo(const std::string& ruta);
 
 // Writes the whole file so that the previous one is never damaged: the bytes go to a
-// temporary file beside the target, which takes the target's place only when complete.
+// temporary file beside the target, are flushed to the disk, and the file takes the target's
+// place only when complete. The target keeps its permissions; a symbolic link is followed and
+// its target written; a target without write permission is refused (70, "Permiso denegado")
+// whoever runs the program. A failure is reported by its cause: disk full (61), permission
+// (70), missing folder (76), other (75).
 void EscribirArchivo(const std::string& ruta, const std::string& bytes);
 
 // Appends to a file, creating it if missing.

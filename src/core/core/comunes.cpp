@@ -97,7 +97,11 @@ std::string TextoIntervalo(const ValorLibre& minimo, const ValorLibre& maximo) {
         texto = "(?,";
     } else {
         const std::string m = minimo.Texto();
-        texto = (m.front() == '=' ? "[" : "(") + m.substr(1) + ",";
+        // Appended piece by piece: GCC 12 warns (-Wrestrict, a known false positive) on a
+        // literal added to a temporary string.
+        texto.push_back(m.front() == '=' ? '[' : '(');
+        texto.append(m, 1);
+        texto += ',';
     }
     if (maximo.EsVacio()) {
         texto += "?)";

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace vadro {
@@ -72,9 +73,30 @@ std::optional<Tramo> BuscarSeccion(const std::vector<std::string>& lineas,
 
 // The lines of the file; a missing file has none. A file that is there but cannot be read
 // gives nothing, so that a write never replaces what it could not see.
+// A byte-order mark, or a first character of UTF-16 (an ASCII byte beside a zero byte).
+bool OtraCodificacion(std::string_view bytes) {
+    if (bytes.substr(0, 3) == "\xEF\xBB\xBF" || bytes.substr(0, 2) == "\xFF\xFE" ||
+        bytes.substr(0, 2) == "\xFE\xFF") {
+        return true;
+    }
+    if (bytes.size() < 2) {
+        return false;
+    }
+    const auto primero = static_cast<unsigned char>(bytes[0]);
+    const auto segundo = static_cast<unsigned char>(bytes[1]);
+    return (primero != 0 && primero < 0x80 && segundo == 0) ||
+           (primero == 0 && segundo != 0 && segundo < 0x80);
+}
+
+// A file in UTF-16 or with a byte-order mark is left alone: its lines are not 8-bit text, and a
+// key written into it would be in another encoding.
 std::optional<std::vector<std::string>> LineasDe(const std::string& archivo) {
     try {
-        return DividirLineas(LeerArchivo(archivo));
+        const std::string bytes = LeerArchivo(archivo);
+        if (OtraCodificacion(bytes)) {
+            return std::nullopt;
+        }
+        return DividirLineas(bytes);
     } catch (const ErrorEjecucion& error) {
         if (error.Numero() == ErrArchivoNoEncontrado) {
             return std::vector<std::string>{};

@@ -9,8 +9,15 @@
 namespace vadro {
 
 Respuesta PrimerBoton(Botones botones) {
-    return (botones == Botones::SiNo || botones == Botones::SiNoCancelar) ? Respuesta::Si
-                                                                          : Respuesta::Aceptar;
+    switch (botones) {
+    case Botones::SiNo:
+    case Botones::SiNoCancelar:
+        return Respuesta::Si;
+    case Botones::ReintentarCancelar:
+        return Respuesta::Reintentar;
+    default:
+        return Respuesta::Aceptar;
+    }
 }
 
 Respuesta MsgBox(const std::string& texto, Botones botones, Icono icono,

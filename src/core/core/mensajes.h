@@ -7,9 +7,9 @@ namespace vadro {
 
 // The button sets, icons and answers of the message box: the only way the logic talks to the
 // user.
-enum class Botones { Aceptar, AceptarCancelar, SiNo, SiNoCancelar };
+enum class Botones { Aceptar, AceptarCancelar, SiNo, SiNoCancelar, ReintentarCancelar };
 enum class Icono { Ninguno, Critico, Pregunta, Exclamacion, Informacion };
-enum class Respuesta { Aceptar, Cancelar, Si, No };
+enum class Respuesta { Aceptar, Cancelar, Si, No, Reintentar };
 
 struct Mensaje {
     std::string texto;

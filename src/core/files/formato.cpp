@@ -1,5 +1,7 @@
 #include "core/files/formato.h"
 
+#include "core/core/error_ejecucion.h"
+
 #include <cmath>
 
 namespace vadro {
@@ -19,6 +21,10 @@ std::string SinCeroInicial(std::string texto) {
 } // namespace
 
 std::string FormaImpresa(double numero) {
+    // The reader cannot read "inf" or "nan" back: such a number is refused at the save.
+    if (!std::isfinite(numero)) {
+        throw ErrorEjecucion(ErrDesbordamiento);
+    }
     const std::string texto = SinCeroInicial(TextoNumero(numero));
     return (numero < 0 ? "" : " ") + texto + " ";
 }

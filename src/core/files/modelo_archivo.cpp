@@ -7,6 +7,9 @@
 #include "core/files/lectura_seccion.h"
 #include "core/files/seccion_requerimientos.h"
 
+#include <new>
+#include <stdexcept>
+
 namespace vadro {
 
 namespace {
@@ -66,7 +69,18 @@ bool GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
     ArchivoSalida salida;
     EscribirCabecera(modelo, salida, indice);
     // The requirements show their own failure, and the model goes on without the rest of them.
-    GuardarRequerimientos(modelo, salida, indice);
+    // A save abandoned in a function's retry box, or refused for a number that would not read
+    // back, leaves the previous file and Modificado.
+    try {
+        GuardarRequerimientos(modelo, salida, indice);
+    } catch (const ErrorEjecucion& error) {
+        if (error.Numero() == ErrDesbordamiento) {
+            MostrarFalloGuardado(error);
+        } else if (error.Numero() != ErrCancelar) {
+            throw;
+        }
+        return false;
+    }
     // The components and stages writers have no trap: their failures go up to the caller.
     GuardarComponentes(modelo, salida, indice);
     GuardarEtapas(modelo, salida, indice);
@@ -80,9 +94,18 @@ bool GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
     return true;
 }
 
+// The message of a failure names the file, so that the user knows which one is at fault.
 void CargarModelo(Modelo& modelo, const std::string& ruta, const std::string& indice) {
-    ArchivoPropio archivo(ruta);
-    CargarModelo(modelo, *archivo, indice);
+    try {
+        ArchivoPropio archivo(ruta);
+        CargarModelo(modelo, *archivo, indice);
+    } catch (const ErrorEjecucion& error) {
+        throw ErrorEjecucion(error.Numero(), error.Descripcion() + " (" + ruta + ")");
+    } catch (const std::bad_alloc&) {
+        throw ErrorEjecucion(ErrMemoria, DescripcionError(ErrMemoria) + " (" + ruta + ")");
+    } catch (const std::length_error&) {
+        throw ErrorEjecucion(ErrMemoria, DescripcionError(ErrMemoria) + " (" + ruta + ")");
+    }
 }
 
 void CargarModelo(Modelo& modelo, ArchivoEntrada& archivo, const std::string& indice) {

@@ -15,12 +15,13 @@ void LeerCabecera(Modelo& modelo, ArchivoEntrada& archivo, const std::string& in
 // Writes the complete model: the header, then the sections. With `anadir` the text is
 // appended as plain text; otherwise it replaces the file, scrambled. A failure to write the file
 // is shown to the user and the model keeps its `Modificado`: the result says whether the file
-// was written.
+// was written; so does a save the user abandoned in a retry box, which writes nothing.
 bool GuardarModelo(Modelo& modelo, const std::string& ruta, bool anadir,
                    const std::string& indice = {});
 
 // Reads a complete file on its own. A failure the section readers do not catch goes up to
-// the caller as a runtime error; an empty or unknown file gives an empty model.
+// the caller as a runtime error whose description names the file (memory exhaustion is
+// "Memoria insuficiente", 7); an empty or unknown file gives an empty model.
 void CargarModelo(Modelo& modelo, const std::string& ruta, const std::string& indice = {});
 
 // Reads a model from a file the caller holds open, from its current position.

@@ -94,12 +94,33 @@ std::string ProtegerArchivo(const std::string& ruta) {
     return ruta;
 }
 
-std::string RutaTemporal(const std::string& ruta) {
+namespace {
+
+std::filesystem::path Camino(const std::string& ruta) {
     const std::string normal = NormalizarRuta(ruta);
-    const std::filesystem::path camino(std::u8string(normal.begin(), normal.end()));
-    const std::u8string base = camino.stem().u8string();
-    return UnirRuta(SesionActual().DirectorioPrograma,
-                    std::string(base.begin(), base.end()) + ".$$$");
+    return std::filesystem::path(std::u8string(normal.begin(), normal.end()));
+}
+
+bool MismoArchivo(const std::string& a, const std::string& b) {
+    std::error_code ec;
+    const auto uno = std::filesystem::weakly_canonical(Camino(a), ec);
+    const auto otro = std::filesystem::weakly_canonical(Camino(b), ec);
+    return !ec && uno == otro;
+}
+
+} // namespace
+
+// A file the user named may itself be such a path (a ".$$$" file in the program directory);
+// the temporary file then takes another name, so that it never overwrites or deletes it.
+std::string RutaTemporal(const std::string& ruta) {
+    const std::u8string base = Camino(ruta).stem().u8string();
+    std::string nombre(base.begin(), base.end());
+    std::string temporal = UnirRuta(SesionActual().DirectorioPrograma, nombre + ".$$$");
+    while (MismoArchivo(temporal, ruta)) {
+        nombre += '~';
+        temporal = UnirRuta(SesionActual().DirectorioPrograma, nombre + ".$$$");
+    }
+    return temporal;
 }
 
 std::string TextoPlano(std::string_view bytes) {

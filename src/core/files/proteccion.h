@@ -27,7 +27,8 @@ std::string ProtegerTexto(std::string_view textoPlano);
 // file is replaced only when the new one is whole. Returns the path.
 std::string ProtegerArchivo(const std::string& ruta);
 
-// The temporary file for a path: the program directory, the base name, the extension ".$$$".
+// The temporary file for a path: the program directory, the base name, the extension ".$$$";
+// never the path itself (a "~" is added to the base name until it differs).
 std::string RutaTemporal(const std::string& ruta);
 
 // Writes the plain text of the file into its temporary file and returns the temporary path.

@@ -15,9 +15,9 @@ namespace {
 constexpr const char* kTemaFuncion = "la función de valor";
 constexpr const char* kTemaOptativo = "la función de valor de indicador optativo";
 
-// Runs the statements of one block's writing. A statement that fails is shown to the user and
-// run again: there is no way out but removing the cause, which is what the user is asked to
-// do.
+// Runs the statements of one block's writing. A statement that fails is shown to the user, who
+// may have it run again once the cause is removed, or give up: Cancelar abandons the whole save
+// (the cancel error goes up to the save, which writes nothing).
 class EscritorFuncion {
 public:
     EscritorFuncion(ArchivoSalida& salida, std::string prefijo, const char* tema)
@@ -28,7 +28,9 @@ public:
             try {
                 return sentencia();
             } catch (const ErrorEjecucion& error) {
-                MostrarFallo(error);
+                if (error.Numero() == ErrCancelar || !Reintentar(error)) {
+                    throw ErrorEjecucion(ErrCancelar);
+                }
             }
         }
     }
@@ -42,10 +44,11 @@ public:
     ArchivoSalida& Salida() { return salida_; }
 
 private:
-    void MostrarFallo(const ErrorEjecucion& error) const {
-        MsgBox("Error " + std::to_string(error.Numero()) + " al guardar " + tema_ + ".\n\r" +
-                   error.Descripcion(),
-               Botones::Aceptar, Icono::Critico, "VADRO: Error ");
+    bool Reintentar(const ErrorEjecucion& error) const {
+        return MsgBox("Error " + std::to_string(error.Numero()) + " al guardar " + tema_ + ".\n\r" +
+                          error.Descripcion(),
+                      Botones::ReintentarCancelar, Icono::Critico,
+                      "VADRO: Error ") == Respuesta::Reintentar;
     }
 
     ArchivoSalida& salida_;
@@ -131,11 +134,16 @@ template <typename Funcion> void EscribirForma(Funcion& f, EscritorFuncion& e) {
     e.Linea("_P", [&] { return NumeroEscalado(f.P); });
 }
 
-// The count comes from the array itself, so a step function without one fails here.
-// Unlike a limit, a step writes both symbol lines at all times.
+// The count comes from the array itself; an absent array (a function read from a file whose
+// count was missing or not positive) is written as a count of 0, so that it reads back as it
+// was. Unlike a limit, a step writes both symbol lines at all times.
+template <typename T> int CotaEscrita(const Arreglo<T>& arreglo) {
+    return arreglo.Presente() ? arreglo.Cota() : 0;
+}
+
 void EscribirEscalones(Arreglo<Escalon>& pasos, EscritorFuncion& e) {
-    e.Linea("_ESC_NUM", [&] { return FormaImpresa(pasos.Cota()); });
-    const int cota = e.Ejecutar([&] { return pasos.Cota(); });
+    e.Linea("_ESC_NUM", [&] { return FormaImpresa(CotaEscrita(pasos)); });
+    const int cota = e.Ejecutar([&] { return CotaEscrita(pasos); });
     for (int n = 1; n <= cota; ++n) {
         const std::string esc = "_ESC" + std::to_string(n);
         e.Linea(esc + "_VINI", [&] { return NumeroIntervaloEscalado(pasos(n).ValorInicial); });
@@ -147,8 +155,8 @@ void EscribirEscalones(Arreglo<Escalon>& pasos, EscritorFuncion& e) {
 }
 
 void EscribirPuntuaciones(Arreglo<Puntuacion>& elementos, EscritorFuncion& e) {
-    e.Linea("_PTN_NUM", [&] { return FormaImpresa(elementos.Cota()); });
-    const int cota = e.Ejecutar([&] { return elementos.Cota(); });
+    e.Linea("_PTN_NUM", [&] { return FormaImpresa(CotaEscrita(elementos)); });
+    const int cota = e.Ejecutar([&] { return CotaEscrita(elementos); });
     for (int n = 1; n <= cota; ++n) {
         const std::string ptn = "_PTN" + std::to_string(n);
         e.Linea(ptn + "_NOM", [&] { return elementos(n).Nombre; });
@@ -164,9 +172,9 @@ void EscribirPuntuaciones(Arreglo<Puntuacion>& elementos, EscritorFuncion& e) {
 }
 
 void EscribirOptativos(FuncionValor& f, EscritorFuncion& e, const std::string& indice) {
-    e.Linea("_OPT_NUM", [&] { return FormaImpresa(f.Optativos.Cota()); });
+    e.Linea("_OPT_NUM", [&] { return FormaImpresa(CotaEscrita(f.Optativos)); });
     e.Linea("_OPT_SEL", [&] { return FormaImpresa(f.OptativoSeleccionado); });
-    const int cota = e.Ejecutar([&] { return f.Optativos.Cota(); });
+    const int cota = e.Ejecutar([&] { return CotaEscrita(f.Optativos); });
     for (int n = 1; n <= cota; ++n) {
         const std::string opt = "_OPT" + std::to_string(n);
         e.Linea(opt + "_NOM", [&] { return f.Optativos(n).Nombre; });
@@ -190,7 +198,16 @@ void ConfirmarBloque(const ArchivoSalida& salida, const std::string& ruta, bool 
 // symbol gives `signoVacio`.
 ValorLibre LeerIntervalo(LecturaSeccion& l, const std::string& claveNumero,
                          const std::string& claveSigno, const char* signoVacio) {
-    ValorLibre numero = LeerEscalado(l.Buscar(claveNumero));
+    ValorLibre leido = l.Buscar(claveNumero);
+    // A limit's key is the start of its sign's key ("_XMN", "_XMNS"): when the number's line is
+    // missing, the search goes on to the sign line and reads a sign word. The number is then
+    // missing, as the sign's own line is passed.
+    const std::string texto = leido.Texto();
+    if (claveSigno.rfind(claveNumero, 0) == 0 &&
+        (texto == "igual" || texto == "<" || texto == ">")) {
+        leido = ValorLibre();
+    }
+    ValorLibre numero = LeerEscalado(leido);
     if (numero.EsVacio()) {
         return numero;
     }

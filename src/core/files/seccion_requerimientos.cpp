@@ -216,7 +216,12 @@ bool GuardarRequerimientos(Modelo& modelo, ArchivoSalida& salida, const std::str
     try {
         EscritorRequerimientos(salida, indice).Escribir(modelo);
         return true;
-    } catch (const ErrorEjecucion&) {
+    } catch (const ErrorEjecucion& error) {
+        // A save the user abandoned in a function's retry box writes nothing at all; nor does
+        // one with a number that the reader could not read back.
+        if (error.Numero() == ErrCancelar || error.Numero() == ErrDesbordamiento) {
+            throw;
+        }
         MostrarFalloGuardado();
         return false;
     }

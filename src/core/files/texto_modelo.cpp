@@ -6,36 +6,31 @@
 #include "core/files/proteccion.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <string_view>
 
 namespace vadro {
 
 namespace {
 
-// Searches a reader may make per line of its file, and a floor for small files.
-constexpr std::size_t kBusquedasPorLinea = 64;
-constexpr std::size_t kBusquedasMinimas = 1000000;
+// What the searches of one file may read: a number of passes over the whole file, and an
+// allowance per key that covers the blocks a missing key costs in a large model.
+constexpr std::size_t kPasadasLibres = 64;
+constexpr std::size_t kBytesPorBusqueda = 256 * 1024;
 
 } // namespace
 
-namespace {
-
-std::size_t Presupuesto(std::size_t lineas) {
-    return kBusquedasMinimas + kBusquedasPorLinea * lineas;
-}
-
-} // namespace
-
+// The lines are joined by a line feed, which no line holds, so that no occurrence of a key
+// spans two of them.
 ArchivoEntrada::ArchivoEntrada(const std::vector<std::string>& lineasOchoBits) {
     for (const auto& linea : lineasOchoBits) {
+        if (!lineas_.empty()) {
+            texto_ += '\n';
+        }
         lineas_.push_back({texto_.size(), linea.size()});
         texto_ += linea;
     }
-    presupuesto_ = Presupuesto(lineas_.size());
 }
 
 ArchivoEntrada::ArchivoEntrada(Texto, std::string textoOchoBits, std::string temporal)
@@ -45,7 +40,6 @@ ArchivoEntrada::ArchivoEntrada(Texto, std::string textoOchoBits, std::string tem
     PorCadaLinea(texto, [this, texto](std::string_view linea) {
         lineas_.push_back({static_cast<std::size_t>(linea.data() - texto.data()), linea.size()});
     });
-    presupuesto_ = Presupuesto(lineas_.size());
 }
 
 ArchivoEntrada ArchivoEntrada::DesdeTexto(std::string textoOchoBits, std::string temporal) {
@@ -61,13 +55,41 @@ std::vector<std::string> ArchivoEntrada::Lineas() const {
     return lineas;
 }
 
-void ArchivoEntrada::CobrarBusqueda(std::size_t lineasLeidas) {
-    const std::size_t coste = lineasLeidas + 1;
-    if (coste > presupuesto_) {
-        presupuesto_ = 0;
-        throw ErrorEjecucion(ErrFinArchivo);
+std::size_t ArchivoEntrada::LineaCon(std::string_view buscado, std::size_t desde,
+                                     std::size_t hasta) {
+    hasta = std::min(hasta, lineas_.size());
+    if (desde >= hasta) {
+        return lineas_.size();
     }
-    presupuesto_ -= coste;
+    const std::size_t fin = lineas_[hasta - 1].inicio + lineas_[hasta - 1].largo;
+    std::size_t byte = lineas_[desde].inicio;
+    for (;;) {
+        const std::size_t donde = buscador_.Buscar(texto_, buscado, byte, fin, costeBusquedas_);
+        if (donde == BuscadorTexto::kNoEncontrado) {
+            return lineas_.size();
+        }
+        // The line that holds the first byte of the occurrence; it counts if the line holds all
+        // of it (a text with a line break in it is in no line).
+        const auto siguiente =
+            std::upper_bound(lineas_.begin(), lineas_.end(), donde,
+                             [](std::size_t b, const Tramo& tramo) { return b < tramo.inicio; });
+        const Tramo& tramo = *(siguiente - 1);
+        if (donde + buscado.size() <= tramo.inicio + tramo.largo) {
+            return static_cast<std::size_t>(siguiente - lineas_.begin()) - 1;
+        }
+        byte = donde + 1;
+    }
+}
+
+void ArchivoEntrada::CobrarBusqueda() {
+    ++busquedas_;
+    const double permitido =
+        static_cast<double>(kPasadasLibres) * static_cast<double>(texto_.size()) +
+        static_cast<double>(kBytesPorBusqueda) * static_cast<double>(busquedas_);
+    if (static_cast<double>(costeBusquedas_) > permitido) {
+        throw ErrorEjecucion(ErrFinArchivo, "El archivo pide muchos más valores de los que "
+                                            "contiene: está dañado o no es un archivo de VADRO.");
+    }
 }
 
 namespace {
@@ -107,10 +129,6 @@ void ArchivoEntrada::BorrarTemporal() {
 
 namespace {
 
-bool Contiene(std::string_view linea, std::string_view texto) {
-    return linea.find(texto) != std::string_view::npos;
-}
-
 // The key part of a line: the text before its first "=", without the blank in front of it.
 std::string ParteClave(std::string_view linea) {
     std::string_view parte = linea.substr(0, linea.find('='));
@@ -143,13 +161,16 @@ std::string_view ValorDeLinea(std::string_view linea) {
 
 } // namespace
 
+// The rule reads line by line: from the position to the first line holding the key; if that
+// search reaches the end of the file, whether or not its last line held the key, once more from
+// the start up to the first line that holds the key or the key part of the first line read that
+// has one. Here each of those reads is a search over the bytes of the lines it would read.
 ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave) {
     const std::size_t inicio = archivo.Posicion();
+    const std::size_t lineas = archivo.NumLineas();
     if (archivo.FinArchivo()) {
-        archivo.CobrarBusqueda(0);
         return ValorLibre();
     }
-    std::size_t leidas = 0;
     // Keys are plain ASCII nearly always, and then their 8-bit form is the same text.
     std::string convertida;
     std::string_view clave8 = clave;
@@ -157,38 +178,28 @@ ValorLibre BuscarValor(ArchivoEntrada& archivo, const std::string& clave) {
         convertida = AOchoBits(clave);
         clave8 = convertida;
     }
-    std::string_view linea;
-    std::optional<std::string_view> lineaPrimeraClave;
-    while (!archivo.FinArchivo()) {
-        linea = archivo.LeerLinea();
-        ++leidas;
-        if (!lineaPrimeraClave && Contiene(linea, "=")) {
-            lineaPrimeraClave = linea;
-        }
-        if (Contiene(linea, clave8)) {
-            break;
-        }
+    std::size_t hallada = archivo.LineaCon(clave8, inicio, lineas);
+    if (hallada + 1 < lineas) {
+        archivo.CobrarBusqueda();
+        archivo.IrA(hallada + 1);
+        return ValorLibre(DesdeOchoBits(ValorDeLinea(archivo.LineaEn(hallada))));
     }
-    if (archivo.FinArchivo()) {
-        // Once more from the start, up to the line where the search began. An empty first
-        // key is found in the first line, and so is a missing one.
-        const std::string primeraClave =
-            lineaPrimeraClave ? ParteClave(*lineaPrimeraClave) : std::string();
-        archivo.IrA(0);
-        while (!archivo.FinArchivo()) {
-            linea = archivo.LeerLinea();
-            ++leidas;
-            if (Contiene(linea, clave8) || Contiene(linea, primeraClave)) {
-                break;
-            }
-        }
-    }
-    archivo.CobrarBusqueda(leidas);
-    if (!Contiene(linea, clave8)) {
+    // The end was reached. The first key is that of the first line read with an "="; an empty
+    // first key, or none, stops the second search at the first line.
+    const std::size_t conIgual = archivo.LineaCon("=", inicio, lineas);
+    const std::string primeraClave =
+        conIgual < lineas ? ParteClave(archivo.LineaEn(conIgual)) : std::string();
+    // That line holds its own key part, so the second search ends there at the latest.
+    std::size_t parada =
+        archivo.LineaCon(primeraClave, 0, conIgual < lineas ? conIgual + 1 : lineas);
+    hallada = archivo.LineaCon(clave8, 0, parada < lineas ? parada + 1 : lineas);
+    archivo.CobrarBusqueda();
+    if (hallada >= lineas) {
         archivo.IrA(inicio);
         return ValorLibre();
     }
-    return ValorLibre(DesdeOchoBits(ValorDeLinea(linea)));
+    archivo.IrA(hallada + 1);
+    return ValorLibre(DesdeOchoBits(ValorDeLinea(archivo.LineaEn(hallada))));
 }
 
 // Text that is plain ASCII is its own 8-bit form.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/core/valor_libre.h"
+#include "core/files/busqueda_texto.h"
 
 #include <cstddef>
 #include <string>
@@ -37,11 +38,18 @@ public:
     // Deletes the temporary file of the plain text, if any.
     void BorrarTemporal();
 
-    // Charges the work of one search: the lines it read, and one for the search itself. A
-    // file read in the order of writing costs about one line per key; a broken or hostile
-    // file whose counts ask for far more values than it holds runs out of budget, which is
-    // runtime error 62, instead of loading for hours.
-    void CobrarBusqueda(std::size_t lineasLeidas);
+    // The first line in [desde, hasta) that holds the text anywhere in it, or NumLineas(). The
+    // search runs over the bytes of the file, not over its lines, and its cost is charged (see
+    // CobrarBusqueda).
+    std::size_t LineaCon(std::string_view buscado, std::size_t desde, std::size_t hasta);
+    std::string_view LineaEn(std::size_t linea) const { return Linea(lineas_[linea]); }
+
+    // Closes the account of one key's search. A search reads at most about one pass over the
+    // file, and most read a few bytes; a missing key costs the blocks where it could stand. A
+    // broken or hostile file whose counts ask for far more keys than it holds, over a large
+    // text, would search for hours: its searches may read a fixed allowance per key and a
+    // small number of passes over the whole file besides, and beyond that the load fails.
+    void CobrarBusqueda();
 
 private:
     struct Texto {};
@@ -61,7 +69,9 @@ private:
     std::vector<Tramo> lineas_;
     std::size_t posicion_ = 0;
     std::string temporal_;
-    std::size_t presupuesto_ = 0;
+    BuscadorTexto buscador_;
+    std::size_t costeBusquedas_ = 0;
+    std::size_t busquedas_ = 0;
 };
 
 // The value of a key, searched from the current position onwards and then once from the

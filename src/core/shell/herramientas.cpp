@@ -6,14 +6,17 @@
 #include "core/core/codigo_pagina.h"
 #include "core/core/error_ejecucion.h"
 #include "core/core/formato_numero.h"
+#include "core/core/mensajes.h"
 #include "core/core/version.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
 #include "core/reports/informe_modelo.h"
 #include "core/weighting/calculo_pesos.h"
 
+#include <algorithm>
 #include <charconv>
 #include <istream>
+#include <new>
 #include <ostream>
 #include <sstream>
 
@@ -94,11 +97,24 @@ std::string LeerOFallar(const std::string& ruta) {
     }
 }
 
+// Plain text starts with the five asterisks of its first marker; anything else is read as
+// scrambled.
+bool EsTextoPlano(std::string_view bytes) {
+    return bytes.substr(0, 5) == "*****";
+}
+
+// The plain 8-bit text of a file, as every order reads it: a plain input in UTF-8 (what
+// "texto" prints, edited) is taken as UTF-8, a scrambled one is decoded.
+std::string TextoPlanoDe(const std::string& ruta) {
+    std::string bytes = LeerOFallar(ruta);
+    return TextoPlano(EsTextoPlano(bytes) ? ComoOchoBits(bytes) : bytes);
+}
+
 int Texto(const std::vector<std::string>& args, std::ostream& salida) {
     if (args.size() != 2) {
         throw ErrorUso{"La orden texto necesita un ARCHIVO."};
     }
-    for (const auto& linea : LineasPlanas(LeerOFallar(args[1]))) {
+    for (const auto& linea : DividirLineas(TextoPlanoDe(args[1]))) {
         salida << DesdeOchoBits(linea) << '\n';
     }
     return kCorrecto;
@@ -108,7 +124,14 @@ int Proteger(const std::vector<std::string>& args) {
     if (args.size() != 3) {
         throw ErrorUso{"La orden proteger necesita un archivo PLANO y un DESTINO."};
     }
-    const std::vector<std::string> lineas = DividirLineas(ComoOchoBits(LeerOFallar(args[1])));
+    const std::string bytes = LeerOFallar(args[1]);
+    // Scrambling a scrambled file again would make a model that loads empty.
+    if (!EsTextoPlano(bytes)) {
+        throw ErrorUso{"El archivo " + args[1] +
+                       " no es un texto plano (no empieza por \"*****\"): ya está codificado o "
+                       "no es un modelo de VADRO."};
+    }
+    const std::vector<std::string> lineas = DividirLineas(ComoOchoBits(bytes));
     try {
         EscribirArchivo(args[2], TextoProtegido(lineas));
     } catch (const ErrorEjecucion& e) {
@@ -119,8 +142,9 @@ int Proteger(const std::vector<std::string>& args) {
 
 Modelo CargarOFallar(const std::string& ruta) {
     Modelo modelo;
+    ArchivoEntrada archivo = ArchivoEntrada::DesdeTexto(TextoPlanoDe(ruta));
     try {
-        CargarModelo(modelo, ruta);
+        CargarModelo(modelo, archivo);
     } catch (const ErrorEjecucion& e) {
         throw ErrorUso{"No se puede leer el modelo " + ruta + ": error " +
                        std::to_string(e.Numero()) + ", " + e.Descripcion()};
@@ -191,6 +215,28 @@ std::string DiecisieteCifras(double numero) {
     return std::string(texto, fin);
 }
 
+// A sibling set has fewer than 32768 nodes; and a matrix whose lines give a small part of its
+// cells (thousands of lines of one number each) would ask for memory out of all proportion.
+void ComprobarTamano(const std::vector<std::vector<ValorLibre>>& filas) {
+    constexpr std::size_t kMaximoHermanos = 32767;
+    constexpr std::size_t kFilasSinMedida = 1000;
+    const std::size_t n = filas.size();
+    if (n > kMaximoHermanos) {
+        throw ErrorUso{"La matriz tiene " + std::to_string(n) +
+                       " filas, y un conjunto de hermanos tiene como mucho " +
+                       std::to_string(kMaximoHermanos) + "."};
+    }
+    std::size_t celdas = 0;
+    for (const auto& fila : filas) {
+        celdas += std::min(fila.size(), n);
+    }
+    if (n > kFilasSinMedida && celdas < n * n / 4) {
+        throw ErrorUso{"La matriz tiene " + std::to_string(n) + " filas pero solo " +
+                       std::to_string(celdas) + " celdas escritas; una matriz de " +
+                       std::to_string(n) + " filas tiene " + std::to_string(n * n) + "."};
+    }
+}
+
 int Pesos(const std::vector<std::string>& args, std::istream& entrada, std::ostream& salida) {
     if (args.size() != 1) {
         throw ErrorUso{
@@ -212,6 +258,7 @@ int Pesos(const std::vector<std::string>& args, std::istream& entrada, std::ostr
     if (filas.empty()) {
         throw ErrorUso{"La matriz está vacía."};
     }
+    ComprobarTamano(filas);
     const PesosMatriz resultado = PesosDeFilas(filas);
     for (int i = 1; i <= static_cast<int>(filas.size()); ++i) {
         const bool hayPeso =
@@ -231,41 +278,81 @@ std::string ComoOchoBits(const std::string& bytes) {
     return EsUtf8ConAcentos(bytes) ? AOchoBits(bytes) : bytes;
 }
 
+namespace {
+
+int Orden(const std::vector<std::string>& argumentos, std::istream& entrada, std::ostream& salida) {
+    if (argumentos.empty()) {
+        throw ErrorUso{"Falta la orden."};
+    }
+    const std::string& orden = argumentos.front();
+    if (orden == "--help" || orden == "-h" || orden == "ayuda") {
+        salida << kAyuda;
+        return kCorrecto;
+    }
+    if (orden == "texto") {
+        return Texto(argumentos, salida);
+    }
+    if (orden == "proteger") {
+        return Proteger(argumentos);
+    }
+    if (orden == "comprobar") {
+        return Comprobar(argumentos, salida);
+    }
+    if (orden == "compilar") {
+        return Compilar(argumentos, salida);
+    }
+    if (orden == "informe") {
+        return InformeModelo(argumentos, salida);
+    }
+    if (orden == "pesos") {
+        return Pesos(argumentos, entrada, salida);
+    }
+    throw ErrorUso{"Orden desconocida: " + orden + "."};
+}
+
+// While the companion runs, a message box is a line on the error stream; a box that offers a
+// retry is answered Cancelar, so that the first failure ends the order.
+class MensajesAlError {
+public:
+    explicit MensajesAlError(std::ostream& error)
+        : anterior_(InstalarMensajes([&error](const Mensaje& mensaje) {
+              std::string texto = mensaje.texto;
+              texto.erase(std::remove(texto.begin(), texto.end(), '\r'), texto.end());
+              error << "vadro-herramientas: " << texto << '\n';
+              return mensaje.botones == Botones::ReintentarCancelar ? Respuesta::Cancelar
+                                                                    : PrimerBoton(mensaje.botones);
+          })) {}
+    ~MensajesAlError() { InstalarMensajes(std::move(anterior_)); }
+    MensajesAlError(const MensajesAlError&) = delete;
+    MensajesAlError& operator=(const MensajesAlError&) = delete;
+
+private:
+    FuncionMensajes anterior_;
+};
+
+} // namespace
+
 int EjecutarHerramientas(const std::vector<std::string>& argumentos, std::istream& entrada,
                          std::ostream& salida, std::ostream& error) {
+    const MensajesAlError mensajes(error);
     try {
-        if (argumentos.empty()) {
-            throw ErrorUso{"Falta la orden."};
+        const int estado = Orden(argumentos, entrada, salida);
+        // Every write to the output is checked: output cut on a full disk is a failure.
+        salida.flush();
+        if (!salida) {
+            error << "vadro-herramientas: no se puede escribir en la salida estándar.\n";
+            return kFallo;
         }
-        const std::string& orden = argumentos.front();
-        if (orden == "--help" || orden == "-h" || orden == "ayuda") {
-            salida << kAyuda;
-            return kCorrecto;
-        }
-        if (orden == "texto") {
-            return Texto(argumentos, salida);
-        }
-        if (orden == "proteger") {
-            return Proteger(argumentos);
-        }
-        if (orden == "comprobar") {
-            return Comprobar(argumentos, salida);
-        }
-        if (orden == "compilar") {
-            return Compilar(argumentos, salida);
-        }
-        if (orden == "informe") {
-            return InformeModelo(argumentos, salida);
-        }
-        if (orden == "pesos") {
-            return Pesos(argumentos, entrada, salida);
-        }
-        throw ErrorUso{"Orden desconocida: " + orden + "."};
+        return estado;
     } catch (const ErrorUso& e) {
         error << "vadro-herramientas: " << e.mensaje << "\nPruebe «vadro-herramientas --help».\n";
         return kFallo;
     } catch (const ErrorEjecucion& e) {
         error << "vadro-herramientas: error " << e.Numero() << ": " << e.Descripcion() << '\n';
+        return kFallo;
+    } catch (const std::bad_alloc&) {
+        error << "vadro-herramientas: error " << ErrMemoria << ": " << DescripcionError(ErrMemoria)
+              << '\n';
         return kFallo;
     }
 }

@@ -27,7 +27,9 @@ bool Arranque::PreguntarSiHayOtraInstancia() {
     const std::string ruta = UnirRuta(SesionActual().DirectorioPrograma, "vadro-programador.lock");
     cerrojo_ = std::make_unique<QLockFile>(Q(ruta));
     cerrojo_->setStaleLockTime(0);
-    if (cerrojo_->tryLock(0)) {
+    // Only a lock held by a live process is another instance; a folder that cannot be written
+    // holds no lock at all.
+    if (cerrojo_->tryLock(0) || cerrojo_->error() != QLockFile::LockFailedError) {
         return true;
     }
     // Another instance holds it: the user may still start a second one, side by side.

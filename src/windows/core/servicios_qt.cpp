@@ -55,6 +55,8 @@ std::vector<BotonMensaje> BotonesDe(Botones botones) {
         return {si, no};
     case Botones::SiNoCancelar:
         return {si, no, cancelar};
+    case Botones::ReintentarCancelar:
+        return {{"Reintentar", QMessageBox::AcceptRole, Respuesta::Reintentar}, cancelar};
     case Botones::Aceptar:
         break;
     }

@@ -9,6 +9,8 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace vadro {
 namespace {
@@ -81,6 +83,81 @@ TEST_F(Archivos, TheProgramDirectoryFollowsVadroDirThenTheExecutableFolder) {
     const std::string datos = ResolverDirectorioPrograma(Ruta("no-existe"));
     EXPECT_EQ(datos, Ruta(".local/share/VADRO Programador"));
     EXPECT_TRUE(std::filesystem::is_directory(datos));
+}
+
+} // namespace
+} // namespace vadro
+
+namespace vadro {
+namespace {
+
+namespace fs = std::filesystem;
+
+// What saves promise, for any user: the checks work on permission bits, so they hold as root.
+TEST_F(Archivos, ASaveKeepsPermissionsFollowsLinksAndRefusesReadOnlyTargets) {
+    const std::string ruta = Ruta("m.vdm");
+    Escribir(ruta, "antes");
+    fs::permissions(ruta, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    EscribirArchivo(ruta, "despues");
+    EXPECT_EQ(Contenido(ruta), "despues");
+    EXPECT_EQ(fs::status(ruta).permissions(),
+              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+
+    const std::string enlace = Ruta("enlace.vdm");
+    fs::create_symlink(ruta, enlace);
+    EscribirArchivo(enlace, "por el enlace");
+    EXPECT_TRUE(fs::is_symlink(enlace)) << "the link stays a link";
+    EXPECT_EQ(Contenido(ruta), "por el enlace");
+
+    fs::permissions(ruta, fs::perms::owner_read);
+    EXPECT_EQ(pruebas::NumeroDeError([&] { EscribirArchivo(ruta, "no"); }), ErrPermiso);
+    EXPECT_EQ(pruebas::NumeroDeError([&] { AnadirArchivo(ruta, "no"); }), ErrPermiso);
+    EXPECT_EQ(Contenido(ruta), "por el enlace");
+    fs::permissions(ruta, fs::perms::owner_all);
+    EXPECT_EQ(std::distance(fs::directory_iterator(Directorio()), {}), 2)
+        << "no temporary file stays behind";
+}
+
+TEST_F(Archivos, AReadOnlyFolderIsAPermissionFailure) {
+    if (::geteuid() == 0) {
+        GTEST_SKIP() << "root writes into any folder";
+    }
+    fs::create_directory(Ruta("cerrada"));
+    fs::permissions(Ruta("cerrada"), fs::perms::owner_read | fs::perms::owner_exec);
+    EXPECT_EQ(pruebas::NumeroDeError([&] { EscribirArchivo(Ruta("cerrada/m.vdm"), "x"); }),
+              ErrPermiso);
+    fs::permissions(Ruta("cerrada"), fs::perms::owner_all);
+}
+
+TEST_F(Archivos, WhatIsNoRegularFileOrTooLargeIsRefusedBeforeItIsRead) {
+    fs::create_directory(Ruta("carpeta"));
+    ASSERT_EQ(::mkfifo(Ruta("tubo").c_str(), 0600), 0);
+    Escribir(Ruta("enorme"), "");
+    fs::resize_file(Ruta("enorme"), kLargoMaximoArchivo + 1); // sparse: nothing is written
+    struct Caso {
+        std::string ruta;
+        int error;
+    };
+    for (const Caso& caso : std::vector<Caso>{{"/dev/zero", ErrAccesoRuta},
+                                              {Ruta("carpeta"), ErrAccesoRuta},
+                                              {Ruta("tubo"), ErrAccesoRuta},
+                                              {Ruta("enorme"), ErrMemoria},
+                                              {Ruta("no-esta"), ErrArchivoNoEncontrado}}) {
+        EXPECT_EQ(pruebas::NumeroDeError([&] { (void)LeerArchivo(caso.ruta); }), caso.error)
+            << caso.ruta;
+    }
+    EXPECT_EQ(pruebas::NumeroDeError([&] { EscribirArchivo(Ruta("carpeta"), "x"); }),
+              ErrAccesoRuta);
+}
+
+TEST_F(Archivos, AFullDiskIsReportedAsSuchAndLeavesThePreviousFile) {
+    const std::string ruta = Ruta("m.vdm");
+    Escribir(ruta, "antes");
+    sesion().servicios.durante_escritura = [](const std::string&) {
+        throw ErrorEjecucion(ErrDiscoLleno);
+    };
+    EXPECT_EQ(pruebas::NumeroDeError([&] { EscribirArchivo(ruta, "despues"); }), ErrDiscoLleno);
+    EXPECT_EQ(Contenido(ruta), "antes");
 }
 
 } // namespace

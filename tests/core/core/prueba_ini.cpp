@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace vadro {
 namespace {
 
@@ -63,6 +65,24 @@ TEST_F(Ini, AFolderThatCannotBeWrittenIsIgnored) {
     const std::string imposible = Ruta("no-existe/Config.ini");
     EscribirIni("GENERAL", "K", "V", imposible);
     EXPECT_EQ(LeerIni("GENERAL", "K", imposible).Texto(), "-1");
+}
+
+// A file the program cannot write in its own encoding, or may not write, stays as it is; the
+// setting is simply not kept.
+TEST_F(Ini, AFileInAnotherEncodingOrReadOnlyIsLeftAsItIs) {
+    const std::string utf16("[\0G\0]\0", 6);
+    for (const std::string& bytes :
+         {std::string("\xEF\xBB\xBF[GENERAL]\r\nK=1\r\n"), "\xFF\xFE" + utf16, "\xFE\xFF" + utf16,
+          utf16, utf16.substr(1)}) {
+        Escribir(archivo, bytes);
+        EscribirIni("GENERAL", "MOSTRAR_INICIO", "Falso", archivo);
+        EXPECT_EQ(Contenido(archivo), bytes);
+    }
+    Escribir(archivo, "[GENERAL]\r\nMOSTRAR_INICIO=Verdadero\r\n");
+    std::filesystem::permissions(archivo, std::filesystem::perms::owner_read);
+    EscribirIni("GENERAL", "MOSTRAR_INICIO", "Falso", archivo);
+    EXPECT_EQ(Leer("GENERAL", "MOSTRAR_INICIO"), "Verdadero");
+    std::filesystem::permissions(archivo, std::filesystem::perms::owner_all);
 }
 
 } // namespace

@@ -119,24 +119,5 @@ TEST(Formato, ScaledNumbersRoundDownAndTheEmptyTextWritesNothing) {
     EXPECT_EQ(FormaValor(ValorLibre(2.0)), " 2 ");
 }
 
-TEST(BuscarValor, AFileCannotAskForFarMoreSearchesThanItHasLines) {
-    std::vector<std::string> lineas;
-    for (int i = 0; i < 2000; ++i) {
-        lineas.push_back("K" + std::to_string(i) + " = " + std::to_string(i));
-    }
-    ArchivoEntrada archivo(lineas);
-    EXPECT_EQ(BuscarValor(archivo, "K0 ").Texto(), "0");
-    int busquedas = 0;
-    EXPECT_EQ(pruebas::NumeroDeError([&] {
-                  for (; busquedas < 100000; ++busquedas) {
-                      (void)BuscarValor(archivo, "Z"); // each miss reads the whole file
-                  }
-              }),
-              ErrFinArchivo)
-        << "a hostile count would search for ever";
-    EXPECT_GT(busquedas, 300) << "a fair number of misses is allowed";
-    EXPECT_LT(busquedas, 2000) << "but not one per line of the file";
-}
-
 } // namespace
 } // namespace vadro

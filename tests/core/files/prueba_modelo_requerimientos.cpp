@@ -1,4 +1,5 @@
 #include "core/core/archivos.h"
+#include "core/core/error_ejecucion.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
 #include "soporte/datos.h"
@@ -9,6 +10,8 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <random>
+#include <regex>
 
 namespace vadro {
 namespace {
@@ -164,6 +167,152 @@ TEST_F(ModeloConRequerimientos, TwoModelsShareAFileUnderTheirPrefixes) {
     CargarModelo(leidoB, archivo, "B");
     EXPECT_EQ(leidoA.Requerimientos(1).Criterios(1).Indicadores(1).Funcion.K, ValorLibre(0.5));
     EXPECT_EQ(leidoB.Requerimientos(1).Criterios(1), b.Requerimientos(1).Criterios(1));
+}
+
+// The complete model with components and stages, so that every section has lines to lose.
+Modelo ModeloConTodo() {
+    Modelo m = ModeloCompleto();
+    m.Nombre = "Planta";
+    m.Descripcion = "Depuradora";
+    m.NumComponentes = 1;
+    m.Componentes.Redimensionar(1);
+    m.Componentes(1).Nombre = "Obra civil";
+    m.Componentes(1).NumSubcomponentes = 1;
+    m.Componentes(1).Subcomponentes.Redimensionar(1);
+    m.Componentes(1).Subcomponentes(1).Nombre = "Cimientos";
+    m.NumEtapas = 2;
+    m.Etapas.Redimensionar(2);
+    m.Etapas(1) = "Diseño";
+    m.Etapas(2) = "Obra";
+    return m;
+}
+
+// The components and stages readers trap a count that is no number (a missing "CMP_C1_NUM"
+// converts the empty text): their message, and an empty list, is how such a file loads.
+class SinLineas : public ModeloConRequerimientos {
+protected:
+    SinLineas() {
+        anterior_ = InstalarMensajes([this](const Mensaje& mensaje) {
+            const bool trampa = mensaje.titulo == "VADRO: Error." &&
+                                mensaje.texto.rfind("Fichero no válido", 0) == 0;
+            EXPECT_TRUE(trampa) << mensaje.texto;
+            trampas += trampa ? 1 : 0;
+            return PrimerBoton(mensaje.botones);
+        });
+    }
+    ~SinLineas() override { InstalarMensajes(anterior_); }
+
+    int trampas = 0;
+
+private:
+    FuncionMensajes anterior_;
+};
+
+TEST_F(SinLineas, AFileWithAnyOneLineRemovedLoadsWithThatValueEmpty) {
+    Modelo m = ModeloConTodo();
+    GuardarModelo(m, ruta, false);
+    const Lineas completo = LineasDelArchivo();
+    // Lines whose loss leaves only their own value empty: texts and scaled numbers. ("_P" is not
+    // one: its key is the start of "_PTN_NUM", whose value it then reads.)
+    const std::regex propio("(MOD_(APL|NOM|DAT|POR|VER|LOC|REF|DSC|FCP|EJX|EJY|EJZ)|.*_(NOM|DSC|"
+                            "UNI|PSO|STY[0-9]+|DIR|RMN|RMX|C|K|VAL|VLN|VLS|MIN|MAX)|ETA_NOM[0-9]+)"
+                            " = .*");
+    int propias = 0;
+    for (std::size_t i = 0; i < completo.size(); ++i) {
+        Lineas sin = completo;
+        sin.erase(sin.begin() + static_cast<long>(i));
+        Escribir(ruta, TextoProtegido(sin));
+        Modelo leido;
+        const int antes = trampas;
+        ASSERT_NO_THROW(CargarModelo(leido, ruta)) << completo[i];
+        EXPECT_EQ(trampas - antes, completo[i].rfind("CMP_C1_NUM", 0) == 0 ? 1 : 0) << completo[i];
+        GuardarModelo(leido, ruta, false);
+        if (completo[i].rfind("*****", 0) == 0) {
+            EXPECT_EQ(LineasDelArchivo(), completo) << "markers are never looked for";
+        } else if (std::regex_match(completo[i], propio)) {
+            Lineas esperado = completo;
+            esperado[i] = completo[i].substr(0, completo[i].find(" = ") + 3);
+            EXPECT_EQ(LineasDelArchivo(), esperado) << completo[i];
+            ++propias;
+        }
+    }
+    EXPECT_GT(propias, 60) << "most lines of a model are texts and numbers";
+}
+
+TEST_F(SinLineas, AFileWithAnySetOfLinesRemovedLoads) {
+    Modelo m = ModeloConTodo();
+    GuardarModelo(m, ruta, false);
+    const Lineas completo = LineasDelArchivo();
+    std::mt19937 azar(5);
+    for (const unsigned porCiento : {5u, 30u, 70u, 95u}) {
+        for (int vuelta = 0; vuelta < 25; ++vuelta) {
+            Lineas sin;
+            std::copy_if(completo.begin(), completo.end(), std::back_inserter(sin),
+                         [&](const std::string&) { return azar() % 100 >= porCiento; });
+            Escribir(ruta, TextoProtegido(sin));
+            Modelo leido;
+            EXPECT_NO_THROW(CargarModelo(leido, ruta)) << porCiento << "% removed";
+        }
+    }
+}
+
+TEST_F(ModeloConRequerimientos, ANumberTheReaderCannotReadIsRefusedAtTheSave) {
+    Escribir(ruta, "antes");
+    Modelo m = ModeloCompleto();
+    m.Modificado = true;
+    m.Requerimientos(1).Peso = 1e303; // a million times it is no finite number
+    mensajes.Esperar("VADRO: Error ", "Error 6 al guardar el modelo.\n\rDesbordamiento");
+    EXPECT_FALSE(GuardarModelo(m, ruta, false));
+    EXPECT_TRUE(m.Modificado);
+    EXPECT_EQ(Contenido(ruta), "antes");
+}
+
+TEST_F(ModeloConRequerimientos, TheTemporaryFileIsNeverTheFileRead) {
+    const std::string propio = Ruta("m.$$$"); // the program directory holds it
+    Modelo m = ModeloCompleto();
+    GuardarModelo(m, propio, false);
+    const std::string bytes = Contenido(propio);
+    EXPECT_NE(RutaTemporal(propio), propio);
+    Modelo leido;
+    CargarModelo(leido, propio);
+    EXPECT_EQ(leido.Requerimientos(1).Nombre, "Nodo R1");
+    EXPECT_EQ(Contenido(propio), bytes) << "read, not overwritten nor deleted";
+}
+
+// Truncated at any byte, or bytes of no model at all: the load ends, with the model or with a
+// runtime error that names the file; never another failure.
+TEST_F(SinLineas, TruncatedBinaryAndHugeCountFilesLoadOrFailWithARuntimeError) {
+    Modelo m = ModeloConTodo();
+    GuardarModelo(m, ruta, false);
+    const std::string completo = Contenido(ruta);
+    std::mt19937 azar(9);
+    std::vector<std::string> entradas;
+    for (std::size_t corte = 0; corte < completo.size(); corte += 1 + azar() % 97) {
+        entradas.push_back(completo.substr(0, corte));
+    }
+    for (int i = 0; i < 20; ++i) {
+        std::string binario(azar() % 5000, '\0');
+        for (char& b : binario) {
+            b = static_cast<char>(azar());
+        }
+        entradas.push_back(binario);
+    }
+    entradas.push_back(UnirLineas({"*****MODELO*****", "REQ_NUMR =  30000 "}));
+    entradas.push_back(UnirLineas({"*****MODELO*****", "REQ_NUMR =  1 ", "REQ_R1_NUMC =  1 ",
+                                   "REQ_C1R1_NUMI =  1 ", "FUN_I1C1R1_TIP = fEscalon",
+                                   "FUN_I1C1R1_ESC_NUM =  32767 "}));
+    int errores = 0;
+    for (const std::string& bytes : entradas) {
+        Escribir(ruta, bytes);
+        Modelo leido;
+        try {
+            CargarModelo(leido, ruta);
+        } catch (const ErrorEjecucion& error) {
+            ++errores;
+            EXPECT_NE(error.Descripcion().find(ruta), std::string::npos) << error.Descripcion();
+        }
+    }
+    EXPECT_GE(errores, 1) << "30000 requirements at least (32767 steps fit the margin)";
 }
 
 } // namespace

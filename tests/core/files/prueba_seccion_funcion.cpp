@@ -107,24 +107,57 @@ TEST_F(SeccionFuncion, TheReaderFillsWhatTheFileLeavesOut) {
 TEST_F(SeccionFuncion, AFailedStatementIsShownAndRetriedUntilItsCauseIsGone) {
     FuncionValor f = DeEscalones<FuncionValor>();
     const FuncionValor completa = f;
-    f.Escalones.Borrar();
     f.RMax = "mucho";
     const std::string destino = UnirRuta(Ruta("nueva"), "f.fva");
-    mensajes.Esperar("VADRO: Error ", Fallo(ErrTipos))
-        .Esperar("VADRO: Error ", Fallo(ErrTipos), Respuesta::Aceptar,
+    mensajes.Esperar("VADRO: Error ", Fallo(ErrTipos), Respuesta::Reintentar)
+        .Esperar("VADRO: Error ", Fallo(ErrTipos), Respuesta::Reintentar,
                  [&] { f.RMax = completa.RMax; })
-        .Esperar("VADRO: Error ", Fallo(ErrSubindice), Respuesta::Aceptar,
-                 [&] { f.Escalones = completa.Escalones; })
-        .Esperar("VADRO: Error ", Fallo(ErrRutaNoEncontrada), Respuesta::Aceptar,
+        .Esperar("VADRO: Error ", Fallo(ErrRutaNoEncontrada), Respuesta::Reintentar,
                  [&] { std::filesystem::create_directory(Ruta("nueva")); });
     GuardarFuncionValor(f, destino, false);
     EXPECT_EQ(LineasPlanas(Contenido(destino)), LineasDe(FuncionValor(completa)));
+    EXPECT_EQ(mensajes.Vistos().at(0).botones, Botones::ReintentarCancelar);
+}
+
+TEST_F(SeccionFuncion, CancelInTheRetryBoxAbandonsTheWholeSave) {
+    const std::string destino = Ruta("f.fva");
+    Escribir(destino, "antes");
     FuncionValor opciones = DeOptativos("K");
-    opciones.Optativos(2).Funcion.Escalones.Borrar();
-    mensajes.Esperar("VADRO: Error ", Fallo(9, "la función de valor de indicador optativo"),
-                     Respuesta::Aceptar,
-                     [&] { opciones.Optativos(2).Funcion.Escalones.Redimensionar(0); });
-    EXPECT_EQ(LineasDe(opciones).back(), "FUN_O2K_ESC_NUM =  0 ");
+    opciones.Optativos(2).Funcion.RMin = "nada";
+    mensajes.Esperar("VADRO: Error ", Fallo(ErrTipos, "la función de valor de indicador optativo"),
+                     Respuesta::Cancelar);
+    EXPECT_EQ(NumeroDeError([&] { GuardarFuncionValor(opciones, destino, false); }), ErrCancelar);
+    EXPECT_EQ(Contenido(destino), "antes");
+}
+
+// A function read from a file whose count was missing or not positive has no array; it is
+// written with a count of 0 and reads back to the same text.
+TEST_F(SeccionFuncion, AnAbsentArrayIsWrittenAsACountOfZero) {
+    struct Caso {
+        std::string tipo;
+        std::string lineaCuenta;
+        std::vector<std::string> cuentas;
+    };
+    // A negative count sizes no array of steps or options: that is a reading failure.
+    for (const Caso& caso :
+         std::vector<Caso>{{"fEscalon", "FUN_K_ESC_NUM =  0 ", {"", "0", ".4"}},
+                           {"fOptativos", "FUN_K_OPT_NUM =  0 ", {"", "0", ".4"}},
+                           {"fPuntuacion", "FUN_K_PTN_NUM =  0 ", {"", "0", "-1", ".4"}}}) {
+        for (const std::string& cuenta : caso.cuentas) {
+            Lineas lineas = {"FUN_K_IND = K", "FUN_K_TIP = " + caso.tipo};
+            for (const char* sufijo : {"_ESC_NUM", "_OPT_NUM", "_PTN_NUM"}) {
+                lineas.push_back("FUN_K" + std::string(sufijo) + " = " + cuenta);
+            }
+            FuncionValor leida = Leer(lineas, "K");
+            const Lineas escritas = LineasDe(leida);
+            EXPECT_NE(std::find(escritas.begin(), escritas.end(), caso.lineaCuenta), escritas.end())
+                << caso.tipo << " with count \"" << cuenta << "\"";
+            EXPECT_EQ(LineasDe(Leer(escritas, "K")), escritas) << caso.tipo << " " << cuenta;
+        }
+    }
+    FuncionValor opcion = DeOptativos("K");
+    opcion.Optativos(2).Funcion.Escalones.Borrar();
+    EXPECT_EQ(LineasDe(opcion).back(), "FUN_O2K_ESC_NUM =  0 ");
 }
 
 TEST_F(SeccionFuncion, ReadingFailuresGoUpToTheCaller) {

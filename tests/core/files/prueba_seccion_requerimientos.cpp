@@ -101,10 +101,10 @@ TEST_F(SeccionRequerimientos, AFailureShowsOneMessageAndAFunctionsFailureIsItsOw
         << "as far as it got";
     Modelo otro = Arbol();
     FuncionValor& f = otro.Requerimientos(2).Criterios(1).Indicadores(1).Funcion;
-    f.Tipo = FuncionEscalon;
+    f.RMax = "mucho";
     mensajes.Esperar("VADRO: Error ",
-                     "Error 9 al guardar la función de valor.\n\r" + DescripcionError(9),
-                     Respuesta::Aceptar, [&] { f.Escalones.Redimensionar(0); });
+                     "Error 13 al guardar la función de valor.\n\r" + DescripcionError(13),
+                     Respuesta::Reintentar, [&] { f.RMax = {}; });
     EXPECT_EQ(LineasDe(otro).back(), "FUN_I1S1C1R2_TIP = ninguna") << "the tree goes on";
 }
 

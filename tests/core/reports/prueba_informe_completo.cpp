@@ -114,7 +114,7 @@ TEST_F(InformeHerramientas, WrongArgumentsAndMissingFilesFail) {
     EXPECT_NE(Contenido(Ruta("error.txt")).find("La orden informe necesita un MODELO."),
               std::string::npos);
     EXPECT_EQ(Programa("informe no-esta.vdm").first, 2);
-    EXPECT_NE(Contenido(Ruta("error.txt")).find("No se puede leer el modelo no-esta.vdm"),
+    EXPECT_NE(Contenido(Ruta("error.txt")).find("No se puede leer no-esta.vdm: No se encontró el archivo"),
               std::string::npos);
     EXPECT_NE(Programa("--help").second.find("  informe MODELO "), std::string::npos);
 }

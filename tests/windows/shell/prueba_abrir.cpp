@@ -162,7 +162,8 @@ TEST_F(Abrir, BadFilesAreToldAndNothingIsDamaged) {
          "Error 321 al abrir el modelo: El archivo no contiene un modelo de VADRO."},
         {Ruta("no_esta.vdm"),
          "Error 53 al abrir el modelo: " + DescripcionError(ErrArchivoNoEncontrado)},
-        {Ruta("carpeta.vdm"), "Error 75 al abrir el modelo: " + DescripcionError(ErrAccesoRuta)},
+        {Ruta("carpeta.vdm"),
+         "Error 75 al abrir el modelo: " + DescripcionError(ErrAccesoRuta) + ": no es un archivo"},
     };
     for (const Caso& c : casos) {
         const bool archivo = std::filesystem::is_regular_file(c.ruta);
