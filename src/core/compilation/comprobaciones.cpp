@@ -1,6 +1,7 @@
 #include "core/compilation/comprobaciones.h"
 
 #include "core/core/codigo_pagina.h"
+#include "core/core/comunes.h"
 
 #include <algorithm>
 #include <functional>
@@ -27,20 +28,6 @@ constexpr const char* kAviso = "     Aviso: ";
 
 std::string N(int numero) {
     return std::to_string(numero);
-}
-
-// Joins the pieces of a line or a key in one allocation.
-std::string Unir(std::initializer_list<std::string_view> partes) {
-    std::size_t largo = 0;
-    for (const std::string_view parte : partes) {
-        largo += parte.size();
-    }
-    std::string texto;
-    texto.reserve(largo);
-    for (const std::string_view parte : partes) {
-        texto += parte;
-    }
-    return texto;
 }
 
 // An error key: the key word, a blank and the place.

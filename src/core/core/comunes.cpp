@@ -6,6 +6,19 @@
 
 namespace vadro {
 
+std::string Unir(std::initializer_list<std::string_view> partes) {
+    std::size_t largo = 0;
+    for (const std::string_view parte : partes) {
+        largo += parte.size();
+    }
+    std::string texto;
+    texto.reserve(largo);
+    for (const std::string_view parte : partes) {
+        texto += parte;
+    }
+    return texto;
+}
+
 namespace {
 
 std::size_t UltimoSeparador(const std::string& ruta) {

@@ -1,5 +1,7 @@
 #include "core/reports/informe_modelo.h"
 
+#include "core/core/comunes.h"
+
 #include "core/core/formato_numero.h"
 #include "core/functions/funcion_valor.h"
 
@@ -12,7 +14,7 @@ namespace {
 constexpr int kSangriaDerechaTexto = 50;
 
 std::string Numerada(const char* letra, int numero) {
-    return letra + std::to_string(numero);
+    return Unir({letra, std::to_string(numero)});
 }
 
 // A line "etiqueta valor" at the level, only when the value is defined.
@@ -253,21 +255,22 @@ void AñadirRequerimientos(Informe& informe, const Modelo& modelo) {
         AñadirNodo(informe, IconoInforme::Requerimiento, claveR, requerimiento, 1);
         for (int c = 1; c <= requerimiento.NumCriterios.Cuenta(); ++c) {
             const NodoCriterio& criterio = requerimiento.Criterios(c);
-            const std::string claveC = Numerada("C", c) + claveR;
+            const std::string claveC = Unir({Numerada("C", c), claveR});
             AñadirNodo(informe, IconoInforme::Criterio, claveC, criterio, 2);
             // As the tree shows them: the subcriteria with their indicators, then the
             // criterion's own indicators.
             for (int s = 1; s <= criterio.NumSubcriterios.Cuenta(); ++s) {
                 const NodoSubcriterio& subcriterio = criterio.Subcriterios(s);
-                const std::string claveS = Numerada("S", s) + claveC;
+                const std::string claveS = Unir({Numerada("S", s), claveC});
                 AñadirNodo(informe, IconoInforme::Subcriterio, claveS, subcriterio, 3);
                 for (int i = 1; i <= subcriterio.NumIndicadores.Cuenta(); ++i) {
-                    AñadirIndicador(informe, Numerada("I", i) + claveS, subcriterio.Indicadores(i),
-                                    4);
+                    AñadirIndicador(informe, Unir({Numerada("I", i), claveS}),
+                                    subcriterio.Indicadores(i), 4);
                 }
             }
             for (int i = 1; i <= criterio.NumIndicadores.Cuenta(); ++i) {
-                AñadirIndicador(informe, Numerada("I", i) + claveC, criterio.Indicadores(i), 3);
+                AñadirIndicador(informe, Unir({Numerada("I", i), claveC}), criterio.Indicadores(i),
+                                3);
             }
         }
     }
@@ -334,8 +337,8 @@ void AñadirComponentes(Informe& informe, const Modelo& modelo) {
         informe.AñadirTexto("(" + claveC + ") " + componente.Nombre + "\n", 1);
         for (int s = 1; s <= componente.NumSubcomponentes; ++s) {
             informe.AñadirIcono(IconoInforme::Subcomponente);
-            informe.AñadirTexto("(" + Numerada("Op", s) + claveC + ") " +
-                                    componente.Subcomponentes(s).Nombre + "\n",
+            informe.AñadirTexto(Unir({"(", Numerada("Op", s), claveC, ") ",
+                                      componente.Subcomponentes(s).Nombre, "\n"}),
                                 2);
         }
     }
