@@ -1,11 +1,10 @@
-// Whole reports of whole models, the outcome that follows them, and the report's own rules.
+// Whole reports of whole models and the report's own rules.
 
 #include "core/compilation/compilacion.h"
 #include "core/shell/comandos_modelo.h"
 #include "soporte/datos.h"
 #include "soporte/errores.h"
 #include "soporte/modelo_sano.h"
-#include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
 
@@ -87,40 +86,6 @@ TEST(Compilacion, TheOpenWindowsStoreTheirWorkBeforeTheChecksAndTheModelStaysAsI
     EXPECT_EQ(informe.Lineas(), ComprobarModelo(arbol).Lineas());
     EXPECT_EQ(modelo, arbol) << "the checks change nothing";
     EXPECT_EQ(Compilar(modelo).Claves(), informe.Claves()) << "no windows to store";
-}
-
-class DesenlaceDeCompilacion : public pruebas::PruebaSesion {
-protected:
-    const std::string kCorrecta = "VADRO PROGRAMADOR: compilación correcta";
-    const std::string kPregunta =
-        "El modelo no contiene errores.\n"
-        "Desea crear el archivo compilado (*.vdc) utilizable por el módulo VADRO USUARIO?";
-};
-
-TEST_F(DesenlaceDeCompilacion, ErrorsAreToldInAnInformationBoxAndNoFileIsOffered) {
-    mensajes.Esperar("VADRO PROGRAMADOR: compilación incorrecta",
-                     "El modelo contiene errores.\nCorríjalos para poder crear el archivo "
-                     "utilizable por el módulo VADRO USUARIO.");
-    const InformeErrores informe = ComprobarModelo(Modelo());
-    EXPECT_EQ(Desenlace(informe), DesenlaceCompilacion::Incorrecta);
-    EXPECT_FALSE(PreguntarCrearCompilado(informe));
-    EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Informacion);
-    EXPECT_EQ(mensajes.Vistos().at(0).botones, Botones::Aceptar);
-}
-
-TEST_F(DesenlaceDeCompilacion, ACorrectModelIsAskedForTheCompiledFileWarningsOrNot) {
-    Modelo conAvisos = pruebas::ModeloCorrecto();
-    conAvisos.NumEtapas = "";
-    const InformeErrores avisos = ComprobarModelo(conAvisos);
-    EXPECT_EQ(Desenlace(avisos), DesenlaceCompilacion::CorrectaConAvisos);
-    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::Si);
-    EXPECT_TRUE(PreguntarCrearCompilado(avisos));
-    const InformeErrores correcto = ComprobarModelo(pruebas::ModeloCorrecto());
-    EXPECT_EQ(Desenlace(correcto), DesenlaceCompilacion::Correcta);
-    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::No);
-    EXPECT_FALSE(PreguntarCrearCompilado(correcto));
-    EXPECT_EQ(mensajes.Vistos().at(0).botones, Botones::SiNo);
-    EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Pregunta);
 }
 
 } // namespace

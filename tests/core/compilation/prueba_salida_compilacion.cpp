@@ -54,33 +54,35 @@ TEST_F(SalidaCompilacion, AModelWithErrorsHearsSoAndIsOfferedNoFile) {
     sesion().modelo = pruebas::ModeloCorrecto();
     sesion().modelo.Requerimientos(1).Peso = "";
     mensajes.Esperar(kIncorrecta, kErrores);
+    EXPECT_EQ(Desenlace(ComprobarModelo(sesion().modelo)), DesenlaceCompilacion::Incorrecta);
     EXPECT_FALSE(Concluir());
+    EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Informacion);
+    EXPECT_EQ(mensajes.Vistos().at(0).botones, Botones::Aceptar);
     EXPECT_TRUE(DirectorioVacio());
     EXPECT_FALSE(sesion().modelo.Compilado);
 }
 
 TEST_F(SalidaCompilacion, WarningsOnlyLeadToTheCompiledFileWhichHoldsTheModel) {
+    EXPECT_EQ(Desenlace(ComprobarModelo(pruebas::ModeloCorrecto())),
+              DesenlaceCompilacion::Correcta);
     sesion().modelo = ConAvisos();
-    sesion().modelo.Modificado = true;
+    EXPECT_EQ(Desenlace(ComprobarModelo(sesion().modelo)), DesenlaceCompilacion::CorrectaConAvisos);
     const std::string ruta = Ruta("depuradora.vdc");
     mensajes.Esperar(kCorrecta, kPregunta, Respuesta::Si).Esperar(kCorrecta, Anuncio(ruta));
     dialogos.Elegir(kTituloVdc, ruta);
     EXPECT_TRUE(Concluir());
+    EXPECT_EQ(mensajes.Vistos().at(0).botones, Botones::SiNo);
+    EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Pregunta);
     EXPECT_EQ(mensajes.Vistos().at(1).icono, Icono::Informacion);
     EXPECT_TRUE(sesion().modelo.Compilado);
-    EXPECT_FALSE(sesion().modelo.Modificado) << "the compiled file counts as a save";
-    EXPECT_EQ(sesion().modelo.ArchivoCompilado, ruta);
     Modelo leido;
     CargarModelo(leido, ruta);
     EXPECT_EQ(leido.Nombre, "Depuradora");
-    EXPECT_EQ(leido.Aplicacion, sesion().modelo.Aplicacion);
-    EXPECT_FALSE(leido.Aplicacion.empty()) << "the program's version in the header";
     EXPECT_EQ(ComprobarModelo(leido).Lineas(), ComprobarModelo(sesion().modelo).Lineas());
 }
 
 TEST_F(SalidaCompilacion, NoAndACancelledDialogBothEndInSilenceWithoutAFile) {
     sesion().modelo = ConAvisos();
-    sesion().modelo.Archivo = Ruta("depuradora.vdm");
     mensajes.Esperar(kCorrecta, kPregunta, Respuesta::No);
     EXPECT_FALSE(Concluir());
     EXPECT_TRUE(dialogos.Peticiones().empty());
@@ -90,8 +92,6 @@ TEST_F(SalidaCompilacion, NoAndACancelledDialogBothEndInSilenceWithoutAFile) {
     EXPECT_FALSE(Concluir());
     EXPECT_TRUE(DirectorioVacio());
     EXPECT_FALSE(sesion().modelo.Compilado);
-    EXPECT_EQ(sesion().modelo.ArchivoCompilado, Ruta("depuradora.vdm"))
-        << "the compiled file's path falls back on the model's";
 }
 
 TEST_F(SalidaCompilacion, AFailureOfTheWritingIsToldPlainlyAsNumberAndDescription) {

@@ -5,94 +5,65 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 namespace vadro {
 namespace {
 
-std::string Buscar(ArchivoEntrada& archivo, const std::string& clave) {
-    return BuscarValor(archivo, clave).Texto();
-}
-
-TEST(BuscarValor, KeysReadInWritingOrderCostOneLineEach) {
-    ArchivoEntrada archivo({"*****MODELO*****", "A_1 = uno", "A_2 = dos", "A_3 = tres"});
-    EXPECT_EQ(Buscar(archivo, "A_1"), "uno");
-    EXPECT_EQ(archivo.Posicion(), 2u);
-    EXPECT_EQ(Buscar(archivo, "A_2"), "dos");
-    EXPECT_EQ(archivo.Posicion(), 3u);
-}
-
-TEST(BuscarValor, TheKeyMayStandAnywhereInALine) {
-    ArchivoEntrada prefijo({"REQ_R1_STY10 =  5 "});
-    EXPECT_EQ(Buscar(prefijo, "REQ_R1_STY1"), "5") << "a prefix of a longer key finds it";
-    ArchivoEntrada dentro({"A = vale X_1", "X_1 = propio"});
-    EXPECT_EQ(Buscar(dentro, "X_1"), "vale X_1") << "the key inside a value is found first";
-}
-
-TEST(BuscarValor, TheValueFollowsTheLastEqualsSign) {
-    ArchivoEntrada archivo({"A = a=b", "B = c=", "C =", "D = x = y ", "E =  3 "});
-    EXPECT_EQ(Buscar(archivo, "A"), "b");
-    EXPECT_EQ(Buscar(archivo, "B"), "c=") << "the very last character is not examined";
-    EXPECT_EQ(Buscar(archivo, "C"), "");
-    EXPECT_EQ(Buscar(archivo, "D"), "y");
-    EXPECT_EQ(Buscar(archivo, "E"), "3");
-}
-
-TEST(BuscarValor, AMissingKeyLeavesThePositionAsItWas) {
-    ArchivoEntrada archivo({"A = 1", "B = 2", "C = 3"});
-    EXPECT_EQ(Buscar(archivo, "B"), "2");
-    EXPECT_TRUE(BuscarValor(archivo, "Z").EsVacio());
-    EXPECT_EQ(archivo.Posicion(), 2u);
-    EXPECT_EQ(Buscar(archivo, "C"), "3");
-}
-
-TEST(BuscarValor, AnEarlierKeyIsFoundByTheWrap) {
-    ArchivoEntrada archivo({"A = 1", "B = 2", "C = 3", "D = 4"});
-    archivo.IrA(2);
-    EXPECT_EQ(Buscar(archivo, "A"), "1");
-    EXPECT_EQ(archivo.Posicion(), 1u);
-}
-
-TEST(BuscarValor, TheLastLineIsFoundOnlyWhenTheWrapReachesItBeforeTheFirstKey) {
-    ArchivoEntrada archivo({"A = 1", "B = 2", "C = 3", "D = 4"});
-    archivo.IrA(1);
-    EXPECT_TRUE(BuscarValor(archivo, "D").EsVacio())
-        << "reaching the end forces the wrap, which stops at the line of B";
-    EXPECT_EQ(archivo.Posicion(), 1u);
-    archivo.IrA(3);
-    EXPECT_EQ(Buscar(archivo, "D"), "4") << "starting on the last line, the wrap reaches it";
-    EXPECT_TRUE(archivo.FinArchivo());
-}
-
-TEST(BuscarValor, TheWrapStopsAtAnyLineHoldingTheFirstKey) {
-    // The first key read is "B"; the wrap stops at "XB", which holds it, before "K".
-    ArchivoEntrada archivo({"XB = 1", "K = 2", "B = 3", "Z = 4"});
-    archivo.IrA(2);
-    EXPECT_TRUE(BuscarValor(archivo, "K").EsVacio());
-    EXPECT_EQ(archivo.Posicion(), 2u);
-}
-
-TEST(BuscarValor, WithoutAFirstKeyTheWrapEndsAtTheFirstLine) {
-    ArchivoEntrada archivo({"X = 0", "K = 1", "sin clave", "otra"});
-    archivo.IrA(2);
-    EXPECT_TRUE(BuscarValor(archivo, "K").EsVacio()) << "no line read had an equals sign";
-    ArchivoEntrada conClave({"X = 0", "K = 1", "Y = 2", "otra"});
-    conClave.IrA(2);
-    EXPECT_EQ(Buscar(conClave, "K"), "1");
-}
-
-TEST(BuscarValor, AtTheEndOfTheFileNothingIsSearched) {
-    ArchivoEntrada archivo({"A = 1", "B = 2"});
-    EXPECT_EQ(Buscar(archivo, "A"), "1");
-    EXPECT_EQ(Buscar(archivo, "B"), "2");
-    EXPECT_TRUE(archivo.FinArchivo());
-    EXPECT_TRUE(BuscarValor(archivo, "A").EsVacio()) << "no wrap-around from the end";
-    ArchivoEntrada vacio;
-    EXPECT_TRUE(BuscarValor(vacio, "A").EsVacio());
-}
-
-TEST(BuscarValor, ValuesComeBackAsUtf8) {
-    ArchivoEntrada archivo({"MOD_NOM = Ca\xF1"
-                            "on \x80"});
-    EXPECT_EQ(Buscar(archivo, "MOD_NOM"), "Cañon €");
+// The corners of the rule, which prueba_busqueda_texto checks at large against the rule read
+// line by line: a search from a line gives a value (or none) and leaves a position.
+TEST(BuscarValor, TheCornersOfTheSearch) {
+    using Lineas = std::vector<std::string>;
+    const Lineas orden = {"*****MODELO*****", "A_1 = uno", "A_2 = dos", "A_3 = tres"};
+    const Lineas valores = {"A = a=b", "B = c=", "C =", "D = x = y ", "E =  3 "};
+    const Lineas cuatro = {"A = 1", "B = 2", "C = 3", "D = 4"};
+    struct Caso {
+        Lineas lineas;
+        std::size_t desde;
+        std::string clave;
+        std::optional<std::string> valor; // none: nothing found
+        std::size_t despues;
+        const char* porque;
+    };
+    const Caso casos[] = {
+        {orden, 0, "A_1", "uno", 2, "keys in writing order cost one line each"},
+        {orden, 2, "A_2", "dos", 3, ""},
+        {{"REQ_R1_STY10 =  5 "}, 0, "REQ_R1_STY1", "5", 1, "a prefix of a longer key finds it"},
+        {{"A = vale X_1", "X_1 = propio"}, 0, "X_1", "vale X_1", 1, "a key inside a value"},
+        {valores, 0, "A", "b", 1, "the value follows the last equals sign"},
+        {valores, 1, "B", "c=", 2, "the very last character is not examined"},
+        {valores, 2, "C", std::nullopt, 3, "found, with nothing after the sign"},
+        {valores, 3, "D", "y", 4, ""},
+        {valores, 4, "E", "3", 5, ""},
+        {{"A = 1", "B = 2", "C = 3"}, 2, "Z", std::nullopt, 2, "a miss leaves the position"},
+        {cuatro, 2, "A", "1", 1, "an earlier key is found by the wrap"},
+        {cuatro, 1, "D", std::nullopt, 1, "the end forces the wrap, which stops at B's line"},
+        {cuatro, 3, "D", "4", 4, "starting on the last line, the wrap reaches it"},
+        {{"XB = 1", "K = 2", "B = 3", "Z = 4"},
+         2,
+         "K",
+         std::nullopt,
+         2,
+         "the wrap stops at any line holding the first key read"},
+        {{"X = 0", "K = 1", "sin clave", "otra"},
+         2,
+         "K",
+         std::nullopt,
+         2,
+         "no line read had an equals sign: the wrap ends at the first line"},
+        {{"X = 0", "K = 1", "Y = 2", "otra"}, 2, "K", "1", 2, ""},
+        {{"A = 1", "B = 2"}, 2, "A", std::nullopt, 2, "no wrap-around from the end"},
+        {{}, 0, "A", std::nullopt, 0, "an empty file"},
+        {{"MOD_NOM = Ca\xF1on \x80"}, 0, "MOD_NOM", "Cañon €", 1, "values come back as UTF-8"},
+    };
+    for (const Caso& caso : casos) {
+        ArchivoEntrada archivo(caso.lineas);
+        archivo.IrA(caso.desde);
+        const ValorLibre valor = BuscarValor(archivo, caso.clave);
+        EXPECT_EQ(valor.EsVacio() ? std::nullopt : std::optional(valor.Texto()), caso.valor)
+            << caso.clave << " from " << caso.desde << ": " << caso.porque;
+        EXPECT_EQ(archivo.Posicion(), caso.despues) << caso.clave << " from " << caso.desde;
+    }
 }
 
 TEST(Formato, ThePrintFormOfNumbers) {

@@ -174,16 +174,8 @@ Modelo ModeloConTodo() {
     Modelo m = ModeloCompleto();
     m.Nombre = "Planta";
     m.Descripcion = "Depuradora";
-    m.NumComponentes = 1;
-    m.Componentes.Redimensionar(1);
-    m.Componentes(1).Nombre = "Obra civil";
-    m.Componentes(1).NumSubcomponentes = 1;
-    m.Componentes(1).Subcomponentes.Redimensionar(1);
-    m.Componentes(1).Subcomponentes(1).Nombre = "Cimientos";
-    m.NumEtapas = 2;
-    m.Etapas.Redimensionar(2);
-    m.Etapas(1) = "Diseño";
-    m.Etapas(2) = "Obra";
+    pruebas::PonerComponentes(m, {{"Obra civil", {"Cimientos"}}});
+    pruebas::PonerEtapas(m, {"Diseño", "Obra"});
     return m;
 }
 

@@ -200,16 +200,8 @@ TEST(AñadirPropiedades, SevenLinesAtTheLeftEdgeEmptyFieldsIncluded) {
     m.Descripcion = "Primera.\r\nSegunda.\rTercera.\nCuarta.";
     Informe informe;
     AñadirPropiedades(informe, m);
-    EXPECT_EQ(TextoPlano(informe), "Denominación: \n"
-                                   "Realizado por Ana\n"
-                                   "Fecha de elaboración: \n"
-                                   "Versión: 3\n"
-                                   "Localización: \n"
-                                   "Referencia: \n"
-                                   "Descripción: Primera.\n"
-                                   "Segunda.\n"
-                                   "Tercera.\n"
-                                   "Cuarta.\n");
+    const std::string texto = TextoPlano(informe);
+    EXPECT_EQ(texto, pruebas::Datos("informe/propiedades.txt", texto));
     for (const LineaInforme& linea : informe.Lineas()) {
         EXPECT_EQ(std::tuple(linea.Nivel, linea.Sangria, linea.SangriaDerecha),
                   std::tuple(1, 0, 50));
@@ -353,25 +345,8 @@ TEST(AñadirOptativos, EachOptionWithItsPictureAndLimitsWrittenWithEquals) {
     f.OptativoSeleccionado = 2;
     Informe informe;
     AñadirOptativos(informe, f, 1);
-    EXPECT_EQ(TextoPlano(informe), "INDICADORES OPTATIVOS\n"
-                                   "Totales: 2\n"
-                                   "Seleccionables: 2\n"
-                                   "\n"
-                                   "1. Caudal\n"
-                                   "[gráfica]\n"
-                                   "Punto de mínima satisfacción = 0\n"
-                                   "Punto de máxima satisfacción = 90\n"
-                                   "Límite inferior = <0\n"
-                                   "Límite superior = >90\n"
-                                   "\n"
-                                   "2. Presión\n"
-                                   "[gráfica tachada]\n"
-                                   "Punto de mínima satisfacción = 0\n"
-                                   "Punto de máxima satisfacción = 90\n"
-                                   "Límite inferior = <0\n"
-                                   "Límite superior = >90\n"
-                                   "Unidad: h\n"
-                                   "\n");
+    const std::string texto = TextoPlano(informe);
+    EXPECT_EQ(texto, pruebas::Datos("informe/optativos.txt", texto));
     const PiezaInforme& escalones = informe.Lineas().at(5).Piezas.at(0);
     EXPECT_EQ(escalones.Dibujo, DibujoInforme::Escalon);
     ASSERT_NE(escalones.Funcion, nullptr);
