@@ -6,6 +6,8 @@
 #include "core/core/sesion.h"
 #include "core/files/modelo_archivo.h"
 #include "core/shell/comandos_modelo.h"
+#include "windows/compilation/frmCompilacion.h"
+#include "windows/core/conectar.h"
 #include "windows/core/frmInicio.h"
 #include "windows/core/modal.h"
 #include "windows/core/texto.h"
@@ -133,7 +135,9 @@ void frmPrincipal::Compilar() {
     }
     PintarEtiqueta(EtqCompilacion, QColor(0, 0, 0), false);
     Descargar(Hija::Compilacion);
-    Cargar(Hija::Compilacion);
+    auto& compilacion = dynamic_cast<frmCompilacion&>(Cargar(Hija::Compilacion));
+    Conectar(&compilacion, &frmCompilacion::IrAError, this,
+             [this](const QString& clave) { IrAError(clave); });
 }
 
 void frmPrincipal::Imprimir() {

@@ -26,6 +26,7 @@ class QToolBar;
 namespace vadro {
 
 class EtiquetaPaso;
+struct DestinoError;
 
 inline constexpr const char* kTituloPrincipal = "VADRO PROGRAMADOR";
 
@@ -62,6 +63,9 @@ public:
     void AbrirRequerimientos();
     void AbrirComponentes();
     void AbrirEtapas();
+
+    // A double click on a finding of the report: the way to its place in the model.
+    void IrAError(const QString& clave);
 
     // Ventana › Organizar: the child windows in cascade.
     void Organizar();
@@ -166,6 +170,7 @@ private:
     void TituloConArchivo(const std::string& archivo);
     void MostrarModeloAbierto();
     void AvisarResumen(ParteModelo parte);
+    void LlegarAError(const DestinoError& destino);
     bool CerrarHijas();
     std::vector<Hija> HijasAbiertas() const;
     // A step that a child window asks for while the main window is loading it waits for the

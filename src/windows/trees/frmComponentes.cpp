@@ -133,6 +133,16 @@ void frmComponentes::Refrescar() {
     modelo_->Sincronizar(*tvwArbol);
 }
 
+void frmComponentes::SeleccionarNodo(NodoArbol* nodo) {
+    if (nodo != nullptr) {
+        Operar([&] {
+            ed_->SoltarRaton(nodo);
+            ed_->tvwArbol.AsegurarVisible(nodo);
+        });
+    }
+    tvwArbol->setFocus();
+}
+
 void frmComponentes::EditarEtiqueta() {
     const QModelIndex indice = modelo_->Indice(ed_->tvwArbol.Seleccionado());
     if (indice.isValid()) {

@@ -30,6 +30,10 @@ public:
     // Writes the tree into the model, the window staying open.
     void LlamaLlenarComponentes();
     void GuardarArbol();
+    // Selects a node as a click does, shows it and gives the tree the focus.
+    void SeleccionarNodo(NodoArbol* nodo);
+    // The in-place edit of the selected node's label.
+    void EditarEtiqueta();
 
     EdicionComponentes& Edicion() { return *ed_; }
     bool Aceptado = false;
@@ -50,7 +54,6 @@ private:
     void Refrescar();
     void MostrarMenu(NodoArbol* nodo, const QPoint& global);
     void ConectarMenu(QMenu& menu);
-    void EditarEtiqueta();
 
     std::unique_ptr<EdicionComponentes> ed_;
     std::unique_ptr<ModeloArbol> modelo_;

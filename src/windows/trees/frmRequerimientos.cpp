@@ -179,6 +179,16 @@ void frmRequerimientos::EnfocarArbol() {
     tvwArbol->setFocus();
 }
 
+void frmRequerimientos::SeleccionarNodo(NodoArbol* nodo) {
+    if (nodo != nullptr) {
+        Operar([&] {
+            ed_->SoltarRaton(nodo);
+            ed_->tvwArbol.AsegurarVisible(nodo);
+        });
+    }
+    EnfocarArbol();
+}
+
 void frmRequerimientos::EditarEtiqueta() {
     const QModelIndex indice = modelo_->Indice(ed_->tvwArbol.Seleccionado());
     if (indice.isValid()) {

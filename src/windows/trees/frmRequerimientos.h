@@ -38,6 +38,11 @@ public:
     void AjustarControles() override;
     void ActualizarCombos(NodoArbol* nodo);
     void EliminarSubcriteriosDelNodo(NodoArbol* nodo);
+    // Selects a node as a click does, shows it and gives the tree the focus.
+    void SeleccionarNodo(NodoArbol* nodo);
+    // The in-place edit of the selected node's label.
+    void EditarEtiqueta();
+    void cmdFuncion_Click();
 
     EdicionRequerimientos& Edicion() { return *ed_; }
     bool Aceptado = false;
@@ -64,9 +69,7 @@ private:
     void Refrescar();
     void MostrarMenu(NodoArbol* nodo, const QPoint& global);
     void ConectarMenu(QMenu& menu);
-    void EditarEtiqueta();
     void EnfocarArbol();
-    void cmdFuncion_Click();
 
     std::unique_ptr<EdicionRequerimientos> ed_;
     std::unique_ptr<ModeloArbol> modelo_;

@@ -1,0 +1,359 @@
+// From a finding of the compilation report to its place: the main window compiles a model
+// with findings of every kind, the user double-clicks a line, and lands where the line says.
+
+#include "ventana_principal.h"
+
+#include "core/compilation/compilacion.h"
+#include "soporte/modelo_hallazgos.h"
+#include "windows/compilation/frmCompilacion.h"
+#include "windows/core/texto.h"
+#include "windows/trees/frmComponentes.h"
+#include "windows/trees/frmEtapas.h"
+#include "windows/trees/frmRequerimientos.h"
+#include "windows/trees/vista_arbol.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace vadro {
+namespace {
+
+using pruebas::Hijo;
+using Strings = std::vector<std::string>;
+
+const std::string kIncorrecta = "VADRO PROGRAMADOR: compilación incorrecta";
+const std::string kErrores = "El modelo contiene errores.\nCorríjalos para poder crear el "
+                             "archivo utilizable por el módulo VADRO USUARIO.";
+const std::string kCorrecta = "VADRO PROGRAMADOR: compilación correcta";
+const std::string kPregunta =
+    "El modelo no contiene errores.\n"
+    "Desea crear el archivo compilado (*.vdc) utilizable por el módulo VADRO USUARIO?";
+
+class Navegacion : public pruebas::VentanaPrincipal {
+protected:
+    // A new model that holds `modelo`, walked to the position, and compiled there.
+    void CompilarEn(Posicion desde, const Modelo& modelo = pruebas::ModeloConHallazgos()) {
+        NuevoModelo();
+        sesion().modelo = modelo;
+        if (desde != Posicion::Ejes) {
+            principal.cmdContinuar->click();
+        }
+        if (desde == Posicion::Ponderacion || desde == Posicion::Informe) {
+            ContinuarAceptandoPermisos();
+        }
+        if (desde == Posicion::Informe) {
+            principal.cmdContinuar->click();
+        }
+        ASSERT_EQ(principal.Posicion(), desde);
+        const InformeErrores informe = ComprobarModelo(modelo);
+        if (informe.Errores() > 0) {
+            mensajes.Esperar(kIncorrecta, kErrores);
+        } else {
+            mensajes.Esperar(kCorrecta, kPregunta, Respuesta::No);
+        }
+        PulsarBoton("Compilar");
+    }
+
+    frmCompilacion& Informe() const {
+        return *dynamic_cast<frmCompilacion*>(Hija("frmCompilacion"));
+    }
+
+    // The row of the first line with that key.
+    int Fila(const std::string& clave) const {
+        const QListWidget* claves = Informe().lstClaves;
+        for (int i = 0; i < claves->count(); ++i) {
+            if (ACadena(claves->item(i)->text()) == clave) {
+                return i;
+            }
+        }
+        throw std::runtime_error("no report line keyed " + clave);
+    }
+
+    void DobleClicFila(int fila) {
+        QListWidget* lista = Informe().lstErrores;
+        QListWidgetItem* item = lista->item(fila);
+        lista->scrollToItem(item);
+        const QPoint punto = lista->visualItemRect(item).center();
+        QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, punto);
+        QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, punto);
+    }
+    void DobleClic(const std::string& clave) { DobleClicFila(Fila(clave)); }
+
+    std::string Activa() const {
+        QMdiSubWindow* marco = principal.mdiCliente->activeSubWindow();
+        return marco != nullptr ? ACadena(marco->widget()->objectName()) : "";
+    }
+
+    // The selected node of the tree window of that name: key and text, as the logic holds it
+    // and as the view shows it current.
+    std::string Seleccionado(const std::string& ventana) const {
+        const Arbol* arbol = nullptr;
+        const VistaArbol* vista = nullptr;
+        if (ventana == "frmRequerimientos") {
+            auto* r = dynamic_cast<frmRequerimientos*>(Hija("frmRequerimientos"));
+            arbol = &r->Edicion().tvwArbol;
+            vista = r->tvwArbol;
+        } else {
+            auto* c = dynamic_cast<frmComponentes*>(Hija("frmComponentes"));
+            arbol = &c->Edicion().tvwArbol;
+            vista = c->tvwArbol;
+        }
+        const NodoArbol* nodo = arbol->Seleccionado();
+        if (nodo == nullptr) {
+            return "";
+        }
+        EXPECT_EQ(ACadena(vista->currentIndex().data().toString()), nodo->Text());
+        return nodo->Key() + " " + nodo->Text();
+    }
+
+    // The text in the label's in-place edit of a tree window; empty when none is open.
+    std::string EnEdicion(const std::string& ventana) const {
+        auto* vista = Hijo<VistaArbol>(*Hija(ventana.c_str()), "tvwArbol");
+        for (const QLineEdit* campo : vista->viewport()->findChildren<QLineEdit*>()) {
+            if (campo->isVisible()) {
+                return ACadena(campo->text());
+            }
+        }
+        return "";
+    }
+};
+
+struct Caso {
+    const char* clave;
+    Posicion desde;
+    Strings hijas; // the loaded windows, in the order of their loading; the last on top
+    const char* estado;
+    const char* ventanaArbol; // the tree window whose node is looked at, or none
+    const char* nodo;         // its selected node, key and text
+    const char* edicion;      // the text in the label's edit; empty when none
+};
+
+class NavegacionPorClave : public Navegacion, public ::testing::WithParamInterface<Caso> {};
+
+TEST_P(NavegacionPorClave, TheDoubleClickLandsOnTheWindowStepAndNodeOfTheKey) {
+    const Caso& c = GetParam();
+    CompilarEn(c.desde);
+    DobleClic(c.clave);
+    EXPECT_EQ(Hijas(), c.hijas);
+    EXPECT_EQ(Activa(), c.hijas.back()) << "the report stays behind the opened window";
+    EXPECT_EQ(Estado(), c.estado);
+    if (std::string(c.estado) == "Posición: ejes") {
+        EXPECT_EQ(principal.Posicion(), Posicion::Ejes);
+        EsperarAjusteA();
+        EXPECT_TRUE(principal.mnuImportar->menuAction()->isEnabled());
+    } else if (std::string(c.estado) == "Posición: ponderacion") {
+        EXPECT_EQ(principal.Posicion(), Posicion::Ponderacion);
+        EsperarAjusteB();
+    } else {
+        EXPECT_EQ(principal.Posicion(), c.desde) << "the step stays";
+    }
+    if (c.ventanaArbol != nullptr) {
+        EXPECT_EQ(Seleccionado(c.ventanaArbol), c.nodo);
+        EXPECT_EQ(EnEdicion(c.ventanaArbol), c.edicion);
+    }
+}
+
+const Strings kReq = {"frmCompilacion", "frmEjes", "frmRequerimientos"};
+const Strings kCmp = {"frmCompilacion", "frmEjes", "frmComponentes"};
+constexpr const char* kEjes = "Posición: ejes";
+constexpr const char* kR = "frmRequerimientos";
+constexpr const char* kC = "frmComponentes";
+
+INSTANTIATE_TEST_SUITE_P(
+    CadaPalabra, NavegacionPorClave,
+    ::testing::Values(
+        // A repeated name: the second of the pair, its label in edit for a rename at once.
+        Caso{"ReqRep I2S1C2R2", Posicion::Resumen, kReq, kEjes, kR, "I2S1C2R2 RUIDO", "RUIDO"},
+        Caso{"ReqRep I2S1C2R2", Posicion::Ejes,
+             Strings{"frmEjes", "frmCompilacion", "frmRequerimientos"}, kEjes, kR, "I2S1C2R2 RUIDO",
+             "RUIDO"},
+        // Too few children: the node selected and nothing in edit.
+        Caso{"SinHij C1R2", Posicion::Informe, kReq, kEjes, kR, "C1R2 Empleo", ""},
+        Caso{"SinHij C2R2", Posicion::Ponderacion, kReq, kEjes, kR, "C2R2 Seguridad", ""},
+        // Components: a component by its key; an option's key names no node of the tree, and
+        // the node of the last index stands for it.
+        Caso{"CmpRep Co2", Posicion::Resumen, kCmp, kEjes, kC, "Co2 ESTRUCTURA", "ESTRUCTURA"},
+        Caso{"CmpRep Op2Co1", Posicion::Informe, kCmp, kEjes, kC, "Co2 ESTRUCTURA", "ESTRUCTURA"},
+        Caso{"SinEta", Posicion::Resumen, Strings{"frmCompilacion", "frmEjes", "frmEtapas"}, kEjes,
+             nullptr, "", ""},
+        // A node without weight: the overview, at its step, over the report.
+        Caso{"PesNul R2", Posicion::Resumen, Strings{"frmCompilacion", "frmPonderacion"},
+             "Posición: ponderacion", nullptr, "", ""},
+        Caso{"PesNul R2", Posicion::Ejes, Strings{"frmCompilacion", "frmPonderacion"},
+             "Posición: ponderacion", nullptr, "", ""},
+        Caso{"PesNul R2", Posicion::Informe, Strings{"frmCompilacion", "frmPonderacion"},
+             "Posición: ponderacion", nullptr, "", ""},
+        // A matrix: the windows in the way close, the user stays in the report.
+        Caso{"NoCons CR1", Posicion::Resumen, Strings{"frmCompilacion"}, "Posición: resumen",
+             nullptr, "", ""},
+        Caso{"NoCons CR1", Posicion::Ponderacion, Strings{"frmCompilacion"},
+             "Posición: ponderacion", nullptr, "", ""},
+        Caso{"NoCons CR1", Posicion::Informe, Strings{"frmInforme", "frmCompilacion"},
+             "Posición: informe", nullptr, "", ""}));
+
+TEST_F(Navegacion, AValueFunctionFindingOpensTheEditorOnTheIndicatorOverItsTree) {
+    CompilarEn(Posicion::Resumen);
+    sesion().MostrarAvisoFuncionValor = false; // the notice before the first drawing
+    mensajes.Esperar("VADRO",
+                     "Se perderán los últimos valores introducidos. Está seguro que quiere "
+                     "cerrar la ventana?",
+                     Respuesta::Si);
+    modales.Esperar(QStringLiteral("frmFuncionValor"), [this](QDialog& editor) {
+        EXPECT_EQ(editor.windowTitle().toStdString(),
+                  "Definición de la función de valor - [Energía]");
+        EXPECT_EQ(Hijas(), kReq);
+        EXPECT_EQ(Estado(), kEjes);
+        EXPECT_EQ(Seleccionado(kR), "I1C2R1 Energía");
+        auto* r = dynamic_cast<frmRequerimientos*>(Hija(kR));
+        const NodoArbol* nodo = r->Edicion().tvwArbol.Seleccionado();
+        ASSERT_TRUE(nodo->Tag().has_value());
+        EXPECT_EQ(sesion().NodoEdicionActual, *nodo->Tag()) << "the editor works on its row";
+        EXPECT_EQ(r->Edicion().TitulosMarcos[3], "Indicadores del criterio 2");
+        EXPECT_TRUE(r->cmdFuncion->isEnabled());
+        Hijo<QPushButton>(editor, "cmdCancelar")->click();
+    });
+    DobleClic("FunVal I1C2R1");
+    EXPECT_EQ(modales.Vistas().back(), QStringLiteral("frmFuncionValor"));
+    EXPECT_EQ(Activa(), kR);
+}
+
+TEST_F(Navegacion, AnIndicatorOfASubcriterionOpensItsOwnFunction) {
+    CompilarEn(Posicion::Informe);
+    sesion().MostrarAvisoFuncionValor = false;
+    mensajes.Esperar("VADRO",
+                     "Se perderán los últimos valores introducidos. Está seguro que quiere "
+                     "cerrar la ventana?",
+                     Respuesta::Si);
+    modales.Esperar(QStringLiteral("frmFuncionValor"), [this](QDialog& editor) {
+        EXPECT_EQ(editor.windowTitle().toStdString(),
+                  "Definición de la función de valor - [RUIDO]");
+        EXPECT_EQ(Seleccionado(kR), "I2S1C2R2 RUIDO");
+        auto* r = dynamic_cast<frmRequerimientos*>(Hija(kR));
+        EXPECT_EQ(r->Edicion().TitulosMarcos[2], "Subcriterios del criterio 2");
+        EXPECT_EQ(sesion().NodoEdicionActual, *r->Edicion().tvwArbol.Seleccionado()->Tag());
+        Hijo<QPushButton>(editor, "cmdCancelar")->click();
+    });
+    DobleClic("FunVal I2S1C2R2");
+    EXPECT_EQ(Hijas(), kReq) << "the report window of the step is gone";
+}
+
+TEST_F(Navegacion, LinesWithoutAKeyDoNothingAtAll) {
+    CompilarEn(Posicion::Resumen);
+    const QListWidget* claves = Informe().lstClaves;
+    int probadas = 0;
+    for (int i = 0; i < claves->count(); ++i) {
+        if (!claves->item(i)->text().isEmpty()) {
+            continue;
+        }
+        DobleClicFila(i);
+        ++probadas;
+        ASSERT_EQ(Hijas(), (Strings{"frmResumen", "frmCompilacion"})) << "row " << i;
+        EXPECT_EQ(Estado(), "Posición: resumen");
+    }
+    EXPECT_GT(probadas, 30) << "totals, headings, levels, all-clears and blanks";
+}
+
+TEST_F(Navegacion, MissingStagesComponentsAndRequirementsOpenTheirWindows) {
+    Modelo sinComponentes = pruebas::ModeloCorrecto();
+    sinComponentes.NumComponentes = 0;
+    sinComponentes.Componentes.Borrar();
+    sinComponentes.NumEtapas = "";
+    CompilarEn(Posicion::Informe, sinComponentes);
+    DobleClic("SinCmp");
+    EXPECT_EQ(Hijas(), kCmp);
+    EXPECT_EQ(Estado(), kEjes);
+    EXPECT_EQ(Seleccionado(kC), "") << "an empty tree has nothing to select";
+
+    // The components window goes by its own closing, which asks before it drops the tree.
+    const std::string descartar =
+        "Está seguro que quiere descartar los cambios realizados en el árbol de componentes?";
+    mensajes.Esperar("VADRO PROGRAMADOR: cerrar componentes", descartar, Respuesta::Si);
+    DobleClic("SinEta");
+    EXPECT_EQ(Hijas(), (Strings{"frmCompilacion", "frmEjes", "frmEtapas"}));
+
+    // No line says so after a compile, which refuses a model without requirements; the way is
+    // there all the same.
+    principal.IrAError(QStringLiteral("SinReq"));
+    EXPECT_EQ(Hijas(), kReq);
+    EXPECT_EQ(Seleccionado(kR), "M Modelo ") << "the window's own first selection";
+    EXPECT_EQ(EnEdicion(kR), "");
+}
+
+TEST_F(Navegacion, ARefusedCloseStopsTheWayAndLeavesEverythingAsItStood) {
+    CompilarEn(Posicion::Ejes);
+    DobleClic("CmpRep Co2");
+    const Strings antes = {"frmEjes", "frmCompilacion", "frmComponentes"};
+    ASSERT_EQ(Hijas(), antes);
+    const std::string descartar =
+        "Está seguro que quiere descartar los cambios realizados en el árbol de componentes?";
+    mensajes.Esperar("VADRO PROGRAMADOR: cerrar componentes", descartar, Respuesta::No);
+    // The requirements window would close first: it is not open, so only the question stops.
+    DobleClic("ReqRep I2S1C2R2");
+    EXPECT_EQ(Hijas(), antes);
+    EXPECT_EQ(Estado(), kEjes);
+    EXPECT_EQ(Seleccionado(kC), "Co2 ESTRUCTURA") << "the tree as the user left it";
+
+    // Nor is the axes window unloaded for the weights' step.
+    mensajes.Esperar("VADRO PROGRAMADOR: cerrar componentes", descartar, Respuesta::No);
+    DobleClic("PesNul R2");
+    EXPECT_EQ(Hijas(), antes);
+    EXPECT_EQ(principal.Posicion(), Posicion::Ejes);
+
+    mensajes.Esperar("VADRO PROGRAMADOR: cerrar componentes", descartar, Respuesta::Si);
+    DobleClic("ReqRep I2S1C2R2");
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmCompilacion", "frmRequerimientos"}));
+    EXPECT_EQ(EnEdicion(kR), "RUIDO");
+}
+
+TEST_F(Navegacion, AnOpenRequirementsWindowIsReloadedFromTheModelTheReportWasMadeOf) {
+    NuevoModelo();
+    sesion().modelo = pruebas::ModeloConHallazgos();
+    PulsarEtiqueta(1);
+    const QPointer<QWidget> primera = Hija(kR);
+    // Compiling stores the open tree first; the finding's window is a fresh load of it.
+    mensajes.Esperar(kIncorrecta, kErrores);
+    PulsarBoton("Compilar");
+    DobleClic("SinHij C1R2");
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmCompilacion", "frmRequerimientos"}));
+    EXPECT_TRUE(primera.isNull() || !dynamic_cast<frmRequerimientos&>(*primera).Cargado);
+    EXPECT_EQ(Seleccionado(kR), "C1R2 Empleo");
+    // A second line leads within the same step: the window goes and comes again.
+    DobleClic("ReqRep I2S1C2R2");
+    EXPECT_EQ(Seleccionado(kR), "I2S1C2R2 RUIDO");
+    EXPECT_EQ(EnEdicion(kR), "RUIDO");
+    EXPECT_EQ(Activa(), kR);
+}
+
+// The main window's own call, as the report's signal makes it: here no click of the test
+// platform takes the activation from the main window afterwards, so what stays once the
+// events have run is what the user gets.
+TEST_F(Navegacion, TheLabelEditLastsOnceTheEventsOfTheWayHaveRun) {
+    CompilarEn(Posicion::Informe);
+    // The modal windows on the way here have settled: the main window is the active one.
+    principal.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&principal));
+    principal.IrAError(QStringLiteral("CmpRep Co2"));
+    QApplication::processEvents();
+    EXPECT_EQ(EnEdicion(kC), "ESTRUCTURA");
+    EXPECT_EQ(Activa(), kC);
+    mensajes.Esperar("VADRO PROGRAMADOR: cerrar componentes",
+                     "Está seguro que quiere descartar los cambios realizados en el árbol de "
+                     "componentes?",
+                     Respuesta::Si);
+    principal.IrAError(QStringLiteral("ReqRep I2S1C2R2"));
+    QApplication::processEvents();
+    EXPECT_EQ(EnEdicion(kR), "RUIDO");
+    EXPECT_EQ(Hijas(), kReq);
+    principal.IrAError(QString());
+    EXPECT_EQ(EnEdicion(kR), "RUIDO") << "the empty key does nothing, not even a close";
+}
+
+} // namespace
+} // namespace vadro
