@@ -231,6 +231,9 @@ bool EditorFuncion::CargarPlantilla() {
     if (!ImportarFuncionValor(leida)) {
         return false;
     }
+    if (EdicionOptativo && leida.Tipo != FuncionContinua && leida.Tipo != FuncionEscalon) {
+        leida.Tipo = FuncionNinguna; // an optional indicator's function knows no other kind
+    }
     LeerFuncion(leida);
     ActualizarLimites();
     SesionActual().modelo.Modificado = true;

@@ -1,5 +1,7 @@
 // The editor's table grids: optional indicators and scoring elements.
+#include "core/files/seccion_funcion.h"
 #include "core/functions/editor_funcion.h"
+#include "soporte/guion_dialogos.h"
 #include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
 
@@ -473,6 +475,37 @@ TEST_F(Tablas, TheSecondInstanceStartsAFunctionWithoutKindAsAContinuousOne) {
     ASSERT_TRUE(e.Aceptar());
     EXPECT_EQ(vacia.Tipo, FuncionContinua);
     EXPECT_EQ(vacia.RMax, ValorLibre(10.0));
+}
+
+TEST_F(Tablas, ATemplateLoadedIntoTheSecondInstanceBringsOnlyAContinuousOrStepKind) {
+    struct Caso {
+        FuncionValor plantilla;
+        int tipo; // the kind list afterwards
+        int32_t escrito;
+    };
+    const Caso casos[] = {
+        {pruebas::DeEscalones<FuncionValor>(), kTipoEscalon, FuncionEscalon},
+        {pruebas::Continua(), kTipoContinua, FuncionContinua},
+        {pruebas::DePuntuacion(), kTipoEscalon, FuncionEscalon},
+        {pruebas::DeOptativos("I1C1R1"), kTipoEscalon, FuncionEscalon},
+    };
+    for (const Caso& caso : casos) {
+        FuncionValor plantilla = caso.plantilla;
+        plantilla.Clave.clear(); // as the editor exports a template
+        const std::string ruta = Ruta("plantilla.fva");
+        GuardarFuncionValor(plantilla, ruta, false, "");
+        FuncionOptativo opcion = pruebas::DeEscalones<FuncionOptativo>();
+        EditorFuncion e;
+        e.Cargar(opcion);
+        pruebas::GuionDialogos dialogos;
+        dialogos.Elegir("Importar función de valor", ruta);
+        ASSERT_TRUE(e.CargarPlantilla()) << caso.plantilla.Tipo;
+        EXPECT_FALSE(e.chkOptativos) << caso.plantilla.Tipo;
+        EXPECT_EQ(e.Tipo, caso.tipo) << caso.plantilla.Tipo;
+        EXPECT_EQ(e.Texto(Campo::Unidades), caso.plantilla.Unidades) << caso.plantilla.Tipo;
+        ASSERT_TRUE(e.Aceptar()) << caso.plantilla.Tipo;
+        EXPECT_EQ(opcion.Tipo, caso.escrito) << caso.plantilla.Tipo;
+    }
 }
 
 } // namespace
