@@ -4,6 +4,7 @@
 #include "core/functions/curva_continua.h"
 #include "core/functions/grafica.h"
 #include "core/functions/graficos.h"
+#include "core/functions/tabla_edicion.h"
 
 #include <array>
 #include <functional>
@@ -143,10 +144,18 @@ public:
     bool Activando = false;
     std::string Nombre;
 
-    // What the later panels edit, kept as read so that accepting loses nothing of it.
-    int16_t OptativoSeleccionado = 0;
-    Arreglo<IndicadorOptativo> OptativosFuncion;
-    Arreglo<Puntuacion> Puntuaciones;
+    // The optional indicators: their grid (`grdOptativos`, whose count `lblOptativos` starts
+    // at 2), the selectable count `lblSeleccionables` with the upper limit of its up-down
+    // control, and the drawing of the chosen row's function. The rows' functions are the
+    // session's `FuncionesEdicion`.
+    TablaEdicion Optativos;
+    int Seleccionables = 1;
+    int MaximoSeleccionables = 1;
+    Grafica GraficaOptativo;
+
+    // The scoring elements: `grdBooleanos` and `grdNumericos`.
+    TablaEdicion Booleanos;
+    TablaEdicion Numericos;
 
     // The main drawing, the curve whose factor survives between drawings, and how many
     // drawings were made.
@@ -221,6 +230,30 @@ public:
     void ActualizarEtiquetasRef();
     void ClickEtiquetaRef(bool maximo);
 
+    // --- Table grids: optional indicators and scoring elements ------------------------------
+    TablaEdicion& TablaDe(Tabla tabla);
+    const TablaEdicion& TablaDe(Tabla tabla) const;
+    // The count of a grid changes to `n`, a reduction only when confirmed.
+    void CambiarCuenta(Tabla tabla, int n);
+    void CambiarSeleccionables(int n);
+    // The current cell moved to this cell.
+    void EntrarCelda(Tabla tabla, int fila, int columna);
+    // Opens the floating input over the current cell; false when it can't be edited, after
+    // the message if the grid has no element.
+    bool AbrirCelda(Tabla tabla);
+    // The current cell is left: the open input's text is committed or refused.
+    void SalirCelda(Tabla tabla, const std::string& texto);
+    AccionEntrada TeclaEntrada(Tabla tabla, int tecla, const std::string& texto);
+    // A double click on the optional indicator's drawing: the row whose function is to be
+    // edited, or 0 after the message that says why there is none.
+    int FilaOptativoAEditar();
+    // The caption of the second window on the function of row `fila`.
+    std::string TituloOptativo(const std::string& titulo, int fila) const;
+    // Draws the function of the chosen optional indicator again; nothing without a row.
+    void DibujarOptativo();
+    // True when the scoring grids hold no element.
+    bool PuntuacionVacia() const;
+
 private:
     void Poner(Campo campo, const std::string& texto);
     void PonerCallado(Campo campo, const std::string& texto);
@@ -236,7 +269,12 @@ private:
     void LeerComun(const FuncionComun& funcion);
     void EscribirComun(FuncionComun& funcion) const;
     void LeerEscalones(const Arreglo<Escalon>& escalones);
-    bool PuntuacionVacia() const;
+    void LeerOptativos(const FuncionValor& funcion);
+    void EscribirOptativos(FuncionValor& funcion) const;
+    void LeerPuntuaciones(const Arreglo<Puntuacion>& puntuaciones);
+    void EscribirPuntuaciones(FuncionValor& funcion) const;
+    // The text is refused at the current cell of a scoring grid, after the message.
+    bool NumeroInvalido(const TablaEdicion& tabla, const std::string& texto) const;
     std::string& Celda(int fila, int columna);
     const std::string& Celda(int fila, int columna) const;
 

@@ -34,7 +34,14 @@ ValorLibre ValorCelda(const std::string& texto, bool numerico) {
 
 } // namespace
 
-EditorFuncion::EditorFuncion() {
+EditorFuncion::EditorFuncion()
+    : Optativos({"Descripción del indicador optativo"}, false, true),
+      Booleanos({"Id", "Enunciado / Descripción", "Puntuación para el NO", "Puntuación para el SI"},
+                true, false),
+      Numericos({"Id", "Enunciado / Descripción", "Mínimo", "Máximo", "Puntuación del Mínimo",
+                 "Puntuación del Máximo"},
+                true, false) {
+    Optativos.Dimensionar(2);
     Filas.assign(1, FilaIntervalo{" -", " -", " -", " -"});
     lblLimitesC = LeyendaLimitesC(CInferior, CSuperior);
     lblLimitesK = kLeyendaLimitesK;
@@ -58,6 +65,7 @@ void EditorFuncion::Cargar(FuncionOptativo& registro) {
     Aviso = true;
     EdicionOptativo = true;
     registro_ = &registro;
+    SeleccionarTipo(kTipoContinua); // a function without a kind starts as a continuous one
     LeerOptativo(registro);
     ActualizarLimites();
     Cargando = false;
@@ -81,11 +89,12 @@ void EditorFuncion::Activar() {
 }
 
 bool EditorFuncion::PuntuacionVacia() const {
-    return Puntuaciones.Tamano() < 1;
+    return Booleanos.Cuenta + Numericos.Cuenta < 1;
 }
 
 bool EditorFuncion::Aceptar() {
-    if (Tipo == kTipoPuntuacion && PuntuacionVacia()) {
+    // Optional indicators write nothing of the kind below them, so its checks don't apply.
+    if (!chkOptativos && Tipo == kTipoPuntuacion && PuntuacionVacia()) {
         if (MsgBox("La función definida como función de puntuación, no tiene elementos "
                    "numéricos ni booleanos. Se guardará cómo función contínua.",
                    Botones::AceptarCancelar, Icono::Pregunta,
@@ -94,7 +103,7 @@ bool EditorFuncion::Aceptar() {
         }
         SeleccionarTipo(kTipoContinua);
     }
-    if (ErrorMinMax()) {
+    if (!chkOptativos && ErrorMinMax()) {
         return false;
     }
     if (auto* const* optativo = std::get_if<FuncionOptativo*>(&registro_)) {
@@ -161,12 +170,13 @@ void EditorFuncion::LeerComun(const FuncionComun& funcion) {
 
 void EditorFuncion::LeerFuncion(const FuncionValor& funcion) {
     LeerComun(funcion);
-    OptativoSeleccionado = funcion.OptativoSeleccionado;
-    OptativosFuncion = funcion.Optativos;
-    Puntuaciones = funcion.Puntuaciones;
+    if (funcion.Tipo == FuncionPuntuacion) {
+        LeerPuntuaciones(funcion.Puntuaciones);
+    }
     if (funcion.Tipo == FuncionOptativos) {
         SeleccionarTipo(kTipoContinua);
         ClickOptativos(true);
+        LeerOptativos(funcion);
     }
 }
 
@@ -201,14 +211,12 @@ void EditorFuncion::EscribirComun(FuncionComun& funcion) const {
 
 void EditorFuncion::EscribirFuncion(FuncionValor& funcion) const {
     if (chkOptativos) {
-        funcion.Tipo = FuncionOptativos;
-        funcion.OptativoSeleccionado = OptativoSeleccionado;
-        funcion.Optativos = OptativosFuncion;
+        EscribirOptativos(funcion);
         return;
     }
     EscribirComun(funcion);
     if (Tipo == kTipoPuntuacion) {
-        funcion.Puntuaciones = Puntuaciones;
+        EscribirPuntuaciones(funcion);
     }
 }
 
@@ -222,6 +230,9 @@ bool EditorFuncion::CargarPlantilla() {
     FuncionValor leida;
     if (!ImportarFuncionValor(leida)) {
         return false;
+    }
+    if (EdicionOptativo && leida.Tipo != FuncionContinua && leida.Tipo != FuncionEscalon) {
+        leida.Tipo = FuncionNinguna; // an optional indicator's function knows no other kind
     }
     LeerFuncion(leida);
     ActualizarLimites();
@@ -260,6 +271,9 @@ void EditorFuncion::ClickTipo(int indice) {
 
 void EditorFuncion::ClickPestana(int pestana) {
     Pestana = pestana;
+    if (chkOptativos) {
+        return; // the optional indicators' panel stands alone under either tab
+    }
     if (pestana == kPestanaFuncion) {
         paneles.FondoGrafica = true;
         paneles.Error = false;

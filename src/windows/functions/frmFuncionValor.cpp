@@ -11,11 +11,13 @@
 #include "windows/core/texto.h"
 #include "windows/functions/arriba_abajo.h"
 #include "windows/functions/modelo_intervalos.h"
+#include "windows/functions/panel_optativos.h"
+#include "windows/functions/panel_puntuacion.h"
 #include "windows/functions/pintar_grafica.h"
+#include "windows/functions/rejilla_tabla.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFocusEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -28,33 +30,6 @@
 namespace vadro {
 
 namespace {
-
-// The classic key codes the editor's rules speak of.
-int CodigoTecla(int tecla) {
-    switch (tecla) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return 13;
-    case Qt::Key_Escape:
-        return 27;
-    case Qt::Key_Left:
-        return 37;
-    case Qt::Key_Up:
-        return 38;
-    case Qt::Key_Right:
-        return 39;
-    case Qt::Key_Down:
-        return 40;
-    default:
-        return 0;
-    }
-}
-
-// A focus lost to a message box or a menu is no leaving of the input.
-bool SalidaReal(const QEvent* evento) {
-    const auto razon = static_cast<const QFocusEvent*>(evento)->reason();
-    return razon != Qt::ActiveWindowFocusReason && razon != Qt::PopupFocusReason;
-}
 
 void Visible(QWidget* control, bool visible) {
     if (control->isVisibleTo(control->parentWidget()) != visible) {
@@ -86,8 +61,15 @@ frmFuncionValor::frmFuncionValor(FuncionOptativo& registro, const std::string& c
     cbbTipoFuncionPrimaria->removeItem(kTipoPuntuacion);
     chkOptativos->hide();
     tspSeleccion->hide();
+    pctGrafica->setMinimumSize(200, 200);
     editor.Cargar(registro);
     Cargar();
+    resize(792, 578); // the compact layout, without the optional indicators and the tabs
+}
+
+frmFuncionValor::~frmFuncionValor() {
+    // The grids read the editor's cells while they hide: they hide before the editor goes.
+    hide();
 }
 
 void frmFuncionValor::Cargar() {
@@ -108,7 +90,20 @@ template <typename Accion> void frmFuncionValor::Manejar(Accion accion) {
     });
 }
 
+void frmFuncionValor::ManejarAccion(const std::function<void()>& accion) {
+    Manejar(accion);
+}
+
+void frmFuncionValor::EditarOptativo(int fila) {
+    const std::string titulo = editor.TituloOptativo(ACadena(windowTitle()), fila);
+    frmFuncionValor segunda(SesionActual().FuncionesEdicion(fila), titulo, this);
+    MostrarModal(segunda);
+    Manejar([&] { editor.DibujarOptativo(); });
+}
+
 void frmFuncionValor::Conectar() {
+    vadro::Conectar(pctOptativos, &PanelOptativos::EditarFila, this,
+                    [this](int fila) { EditarOptativo(fila); });
     editor.MostrarAviso = [this] {
         frmAvisoFuncionValor aviso(SesionActual().MostrarAvisoFuncionValor, this);
         MostrarModal(aviso);
@@ -245,6 +240,8 @@ void frmFuncionValor::Mostrar() {
     lblMaximo->setText(Q(editor.lblMaximo));
     lblEjeX->setText(Q(editor.Texto(Campo::Unidades)));
     MostrarRejilla();
+    pctOptativos->Mostrar();
+    pctTablas->Mostrar();
     pctGrafica->update();
 
     if (editor.foco) {

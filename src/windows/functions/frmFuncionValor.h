@@ -6,6 +6,7 @@
 #include <QDialog>
 
 #include <array>
+#include <functional>
 #include <string>
 
 class QCheckBox;
@@ -22,6 +23,8 @@ namespace vadro {
 class ArribaAbajo;
 class LienzoGrafica;
 class ModeloIntervalos;
+class PanelOptativos;
+class PanelPuntuacion;
 
 // The modal window in which one value function is edited: its limits, its kind, the shape
 // of a continuous function or the intervals of a step function, and its picture. The rules
@@ -37,7 +40,13 @@ public:
     frmFuncionValor(FuncionOptativo& registro, const std::string& caption,
                     QWidget* padre = nullptr);
 
+    ~frmFuncionValor() override;
+
     void AjustarControles() override;
+
+    // Opens the second window, modally, on the function of the optional indicator of row
+    // `fila`, and draws that function again when it closes.
+    void EditarOptativo(int fila);
 
     EditorFuncion editor;
 
@@ -52,9 +61,9 @@ public:
     QWidget* pctFondoGrafica;
     QGroupBox* fmeContinua;
     QGroupBox* fmeEscalon;
-    QWidget* pctTablas;
+    PanelPuntuacion* pctTablas;
     QWidget* pctError;
-    QWidget* pctOptativos;
+    PanelOptativos* pctOptativos;
 
     // The inputs in the order of `Campo`.
     std::array<QLineEdit*, kCampos> entradas{};
@@ -103,6 +112,7 @@ private:
 
     // Runs a handler of the editor and shows what it left.
     template <typename Accion> void Manejar(Accion accion);
+    void ManejarAccion(const std::function<void()>& accion);
     void Mostrar();
     void MostrarRejilla();
     bool FiltrarEntrada(Campo campo, QEvent* evento);

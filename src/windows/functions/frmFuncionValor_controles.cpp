@@ -4,6 +4,8 @@
 #include "windows/functions/arriba_abajo.h"
 #include "windows/functions/frmFuncionValor.h"
 #include "windows/functions/modelo_intervalos.h"
+#include "windows/functions/panel_optativos.h"
+#include "windows/functions/panel_puntuacion.h"
 #include "windows/functions/pintar_grafica.h"
 
 #include <QCheckBox>
@@ -95,10 +97,10 @@ void frmFuncionValor::Construir() {
     fondo->addWidget(ConstruirGrafica(), 1);
     columna->addWidget(pctFondoGrafica, 1);
 
-    // The scoring tables and the optional indicators have panels of their own; they hold
-    // their places here.
-    pctTablas = new QWidget(this);
-    pctTablas->setObjectName(Q("pctTablas"));
+    const Manejador manejar = [this](const std::function<void()>& accion) {
+        ManejarAccion(accion);
+    };
+    pctTablas = new PanelPuntuacion(editor, manejar, this);
     columna->addWidget(pctTablas, 1);
     pctError = new QWidget(this);
     pctError->setObjectName(Q("pctError"));
@@ -109,8 +111,7 @@ void frmFuncionValor::Construir() {
     textoError->setAlignment(Qt::AlignCenter);
     error->addWidget(textoError);
     columna->addWidget(pctError, 1);
-    pctOptativos = new QWidget(this);
-    pctOptativos->setObjectName(Q("pctOptativos"));
+    pctOptativos = new PanelOptativos(editor, manejar, this);
     columna->addWidget(pctOptativos, 1);
 
     cmdAceptar = BotonAceptar(this);

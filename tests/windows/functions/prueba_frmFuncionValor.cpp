@@ -6,6 +6,7 @@
 #include "soporte/volcado_ventana.h"
 #include "windows/functions/arriba_abajo.h"
 #include "windows/functions/frmFuncionValor.h"
+#include "windows/functions/panel_puntuacion.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>

@@ -1,0 +1,415 @@
+// The function editor's optional indicators and scoring elements, worked as a user works them.
+#include "core/files/modelo_archivo.h"
+#include "core/shell/herramientas.h"
+#include "soporte/datos.h"
+#include "soporte/guion_modales.h"
+#include "soporte/modelo_sano.h"
+#include "soporte/prueba_sesion.h"
+#include "soporte/volcado_ventana.h"
+#include "windows/functions/arriba_abajo.h"
+#include "windows/functions/frmFuncionValor.h"
+#include "windows/functions/panel_optativos.h"
+#include "windows/functions/panel_puntuacion.h"
+#include "windows/functions/pintar_grafica.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTableView>
+#include <QTest>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <sstream>
+
+namespace vadro {
+namespace {
+
+using pruebas::Hijo;
+
+const std::string kTitulo = "VADRO PROGRAMADOR";
+const std::string kSeleccione = "Seleccione primero un indicador en la tabla de indicadores.";
+const std::string kSinOptativos = "Introduzca primero el número de elementos optativos deseado.";
+
+// One click on an up-down control.
+void Flecha(ArribaAbajo* control, bool arriba) {
+    const auto botones = control->findChildren<QToolButton*>();
+    botones[arriba ? 0 : 1]->click();
+}
+
+// Typed letters, each as the text of a key: the test's key tables know only ASCII.
+void Letras(QWidget* destino, const QString& texto) {
+    for (const QChar letra : texto) {
+        QKeyEvent pulsada(QEvent::KeyPress, 0, Qt::NoModifier, QString(letra));
+        QApplication::sendEvent(destino, &pulsada);
+        QKeyEvent soltada(QEvent::KeyRelease, 0, Qt::NoModifier, QString(letra));
+        QApplication::sendEvent(destino, &soltada);
+    }
+}
+
+// Types into an input in place of its text, as a user who selected it all.
+void Teclear(QLineEdit* entrada, const QString& texto) {
+    entrada->setFocus();
+    entrada->selectAll();
+    Letras(entrada, texto);
+}
+
+// Types a cell through a grid's floating input, the first key on the grid, and ends with a key.
+void Celda(QTableView* rejilla, QLineEdit* entrada, int fila, int columna, const QString& texto,
+           Qt::Key fin = Qt::Key_Return) {
+    rejilla->setFocus();
+    rejilla->setCurrentIndex(rejilla->model()->index(fila - 1, columna));
+    Letras(rejilla, texto.left(1));
+    ASSERT_TRUE(entrada->isVisible());
+    Letras(entrada, texto.mid(1));
+    QTest::keyClick(entrada, fin);
+}
+
+QString Texto(QTableView* rejilla, int fila, int columna) {
+    return rejilla->model()->index(fila - 1, columna).data().toString();
+}
+
+void ElegirTipo(frmFuncionValor& ventana, int indice) {
+    auto* combo = ventana.cbbTipoFuncionPrimaria;
+    combo->setFocus();
+    while (combo->currentIndex() < indice) {
+        QTest::keyClick(combo, Qt::Key_Down);
+    }
+}
+
+void ClickPestana(frmFuncionValor& ventana, int indice) {
+    QTabBar* pestanas = ventana.tspSeleccion;
+    QTest::mouseClick(pestanas, Qt::LeftButton, {}, pestanas->tabRect(indice).center());
+}
+
+// The second window, as a scripted modal window hands it over: active, its checks of the
+// limits done.
+frmFuncionValor& Segunda(QDialog& d) {
+    d.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&d));
+    return static_cast<frmFuncionValor&>(d);
+}
+
+class Optativos : public pruebas::PruebaSesion {
+protected:
+    Optativos() {
+        sesion().NodosEdicion.Redimensionar(1);
+        sesion().MostrarAvisoFuncionValor = false;
+    }
+
+    frmFuncionValor& Abrir(const FuncionValor& funcion) {
+        sesion().NodosEdicion(1).Funcion = funcion;
+        ventana = std::make_unique<frmFuncionValor>(sesion().NodosEdicion(1).Funcion, "Coste");
+        ventana->show();
+        ventana->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
+        return *ventana;
+    }
+    const FuncionValor& Registro() { return sesion().NodosEdicion(1).Funcion; }
+    PanelOptativos& Panel() { return *ventana->pctOptativos; }
+    PanelPuntuacion& Tablas() { return *ventana->pctTablas; }
+    void Optativo(int fila, const QString& texto) {
+        Celda(Panel().grdOptativos, Panel().txtValorOpt, fila, 0, texto);
+    }
+    void Elegir(int fila) {
+        QTableView* rejilla = Panel().grdOptativos;
+        const QRect celda = rejilla->visualRect(rejilla->model()->index(fila - 1, 0));
+        QTest::mouseClick(rejilla->viewport(), Qt::LeftButton, {}, celda.center());
+    }
+    void DobleClickGrafica() { QTest::mouseDClick(Panel().pctGraficaOptativos, Qt::LeftButton); }
+    void Aceptar() { QTest::mouseClick(ventana->cmdAceptar, Qt::LeftButton); }
+
+    std::unique_ptr<frmFuncionValor> ventana;
+};
+
+TEST_F(Optativos, TickingTheBoxShowsThePanelAndRefusesTemplatesClearingItGivesTheKindBack) {
+    Abrir(pruebas::Continua());
+    QTest::mouseClick(ventana->chkOptativos, Qt::LeftButton);
+    EXPECT_TRUE(Panel().isVisible());
+    EXPECT_FALSE(ventana->pctFondoGrafica->isVisible());
+    EXPECT_FALSE(ventana->cbbTipoFuncionPrimaria->isEnabled());
+    EXPECT_FALSE(ventana->cmdCargar->isEnabled());
+    EXPECT_FALSE(ventana->cmdGuardar->isEnabled());
+    EXPECT_EQ(Panel().lblOptativos->text(), QStringLiteral("2"));
+    EXPECT_EQ(Panel().lblSeleccionables->text(), QStringLiteral("1"));
+    EXPECT_EQ(Panel().grdOptativos->model()->headerData(0, Qt::Horizontal).toString(),
+              QStringLiteral("Descripción del indicador optativo"));
+    EXPECT_EQ(Panel().grdOptativos->model()->columnCount(), 1) << "no column for a mark";
+    ClickPestana(*ventana, 1);
+    EXPECT_TRUE(Panel().isVisible()) << "the panel stands under either tab";
+    EXPECT_FALSE(ventana->pctError->isVisible());
+    QTest::mouseClick(ventana->chkOptativos, Qt::LeftButton);
+    EXPECT_FALSE(Panel().isVisible());
+    EXPECT_TRUE(ventana->pctFondoGrafica->isVisible());
+    EXPECT_TRUE(ventana->cmdGuardar->isEnabled());
+    EXPECT_EQ(ventana->tspSeleccion->currentIndex(), 0);
+}
+
+TEST_F(Optativos, ThreeIndicatorsTwoSelectableEachWithItsFunctionSavedAndReadBack) {
+    Abrir(FuncionValor{});
+    QTest::mouseClick(ventana->chkOptativos, Qt::LeftButton);
+    QAbstractItemModelTester comprobador(Panel().grdOptativos->model());
+
+    mensajes.Esperar(kTitulo, kSeleccione);
+    DobleClickGrafica(); // no row chosen yet: no second window
+
+    Flecha(Panel().updOptativos, true);
+    Flecha(Panel().updSeleccionables, true);
+    Flecha(Panel().updSeleccionables, true);
+    EXPECT_EQ(Panel().lblOptativos->text(), QStringLiteral("3"));
+    EXPECT_EQ(Panel().lblSeleccionables->text(), QStringLiteral("2")) << "at most the total - 1";
+    EXPECT_EQ(sesion().FuncionesEdicion.Tamano(), 3);
+    Optativo(1, QStringLiteral("Caudal"));
+    Optativo(2, QStringLiteral("Presión"));
+    Optativo(3, QStringLiteral("Nivel"));
+    EXPECT_EQ(Texto(Panel().grdOptativos, 2, 0), QStringLiteral("Presión"));
+
+    pruebas::GuionModales modales;
+    modales.Esperar(QStringLiteral("frmFuncionValor"), [](QDialog& d) {
+        frmFuncionValor& segunda = Segunda(d);
+        EXPECT_EQ(segunda.windowTitle().toStdString(),
+                  "Definición de la función de valor - [Coste] - Función del indicador "
+                  "optativo Caudal");
+        EXPECT_EQ(segunda.cbbTipoFuncionPrimaria->count(), 2);
+        EXPECT_EQ(segunda.cbbTipoFuncionPrimaria->currentText(), QStringLiteral("Continua"));
+        EXPECT_FALSE(segunda.chkOptativos->isVisible());
+        EXPECT_FALSE(segunda.tspSeleccion->isVisible());
+        EXPECT_FALSE(segunda.pctOptativos->isVisible());
+        EXPECT_EQ(segunda.size(), QSize(792, 578));
+        pruebas::CompararVolcado(segunda, "frmFuncionValor_optativo");
+        Teclear(Hijo<QLineEdit>(d, "txtUnidades"), QStringLiteral("l/s"));
+        Teclear(Hijo<QLineEdit>(d, "txtMinRef"), QStringLiteral("0"));
+        Teclear(Hijo<QLineEdit>(d, "txtMaxRef"), QStringLiteral("200"));
+        QTest::mouseClick(segunda.cmdFuncion[0], Qt::LeftButton); // "Lineal"
+        QTest::mouseClick(segunda.cmdAceptar, Qt::LeftButton);
+    });
+    Elegir(1);
+    DobleClickGrafica();
+    EXPECT_EQ(sesion().FuncionesEdicion(1).Tipo, FuncionContinua);
+    EXPECT_FALSE(ventana->editor.GraficaOptativo.Visibles().empty()) << "drawn on return";
+    EXPECT_EQ(ventana->editor.GraficaOptativo, GraficarOptativo(sesion().FuncionesEdicion(1)));
+
+    modales.Esperar(QStringLiteral("frmFuncionValor"), [](QDialog& d) {
+        frmFuncionValor& segunda = Segunda(d);
+        ElegirTipo(segunda, kTipoEscalon);
+        for (int i = 0; i < 3; ++i) {
+            Flecha(segunda.updIntervalos, true);
+        }
+        const char* celdas[3][3] = {{"=0", "<10", "0"}, {"=10", "<20", "0.5"}, {"=20", "=30", "1"}};
+        for (int fila = 1; fila <= 3; ++fila) {
+            for (int columna = 1; columna <= 3; ++columna) {
+                Celda(segunda.grdIntervalos, segunda.txtValor, fila, columna,
+                      QString::fromUtf8(celdas[fila - 1][columna - 1]));
+            }
+        }
+        Teclear(Hijo<QLineEdit>(d, "txtUnidades"), QStringLiteral("bar"));
+        QTest::mouseClick(segunda.cmdAceptar, Qt::LeftButton);
+    });
+    Elegir(2);
+    EXPECT_TRUE(ventana->editor.GraficaOptativo.Visibles().empty()) << "row 2 has no function";
+    DobleClickGrafica();
+    EXPECT_EQ(ventana->editor.GraficaOptativo, GraficarOptativo(sesion().FuncionesEdicion(2)));
+
+    modales.Esperar(QStringLiteral("frmFuncionValor"), [](QDialog& d) {
+        frmFuncionValor& segunda = Segunda(d);
+        Teclear(Hijo<QLineEdit>(d, "txtMinRef"), QStringLiteral("5"));
+        Teclear(Hijo<QLineEdit>(d, "txtMaxRef"), QStringLiteral("1"));
+        QTest::mouseClick(segunda.cmdFuncion[1], Qt::LeftButton); // "Convexa"
+        QTest::mouseClick(segunda.cmdAceptar, Qt::LeftButton);
+    });
+    Elegir(3);
+    DobleClickGrafica();
+    EXPECT_EQ(modales.Vistas().size(), 3U);
+
+    Aceptar();
+    EXPECT_FALSE(ventana->isVisible());
+    const FuncionValor& f = Registro();
+    EXPECT_EQ(f.Tipo, FuncionOptativos);
+    EXPECT_EQ(f.OptativoSeleccionado, 2);
+    ASSERT_EQ(f.Optativos.Tamano(), 3);
+    EXPECT_EQ(f.Optativos(3).Nombre, "Nivel");
+    EXPECT_EQ(f.Optativos(2).Funcion.Tipo, FuncionEscalon);
+
+    Modelo modelo = pruebas::ModeloCon({pruebas::Requerimiento(
+        "Servicio", {pruebas::Criterio("Red", {pruebas::Indicador("Coste", f)})})});
+    ASSERT_TRUE(GuardarModelo(modelo, Ruta("optativos.vdm"), false));
+    std::istringstream entrada;
+    std::ostringstream texto, error;
+    ASSERT_EQ(EjecutarHerramientas({"texto", Ruta("optativos.vdm")}, entrada, texto, error), 0)
+        << error.str();
+    EXPECT_EQ(texto.str(), pruebas::Datos("funciones/modelo_optativos.txt", texto.str()));
+    Modelo leido;
+    CargarModelo(leido, Ruta("optativos.vdm"));
+    const FuncionValor& guardada = modelo.Requerimientos(1).Criterios(1).Indicadores(1).Funcion;
+    EXPECT_EQ(leido.Requerimientos(1).Criterios(1).Indicadores(1).Funcion, guardada);
+}
+
+TEST_F(Optativos, TheCountKeepsItsRowsWhenTheReductionIsDeclinedAndAZeroCountSaysSo) {
+    Abrir(pruebas::DeOptativos("I1C1R1"));
+    EXPECT_TRUE(ventana->chkOptativos->isChecked());
+    EXPECT_EQ(Panel().lblOptativos->text(), QStringLiteral("2"));
+    EXPECT_EQ(Panel().lblSeleccionables->text(), QStringLiteral("1"));
+    EXPECT_EQ(Texto(Panel().grdOptativos, 2, 0), QStringLiteral("Presión"));
+    pruebas::GuionModales modales;
+    modales.Esperar(QStringLiteral("frmConfirmacion"),
+                    [](QDialog& d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
+    Flecha(Panel().updOptativos, false);
+    EXPECT_EQ(Panel().lblOptativos->text(), QStringLiteral("2"));
+    EXPECT_EQ(Panel().grdOptativos->model()->rowCount(), 2);
+    EXPECT_EQ(sesion().FuncionesEdicion.Tamano(), 2);
+
+    Elegir(2);
+    const QModelIndex elegida = Panel().grdOptativos->model()->index(1, 0);
+    EXPECT_EQ(elegida.data(Qt::BackgroundRole).value<QBrush>().color(), QColor(255, 192, 192));
+    EXPECT_EQ(
+        Panel().grdOptativos->model()->index(0, 0).data(Qt::BackgroundRole).value<QBrush>().color(),
+        QColor(Qt::white));
+    EXPECT_FALSE(ventana->editor.GraficaOptativo.Visibles().empty()) << "the step function";
+
+    for (int i = 0; i < 2; ++i) {
+        modales.Esperar(QStringLiteral("frmConfirmacion"),
+                        [](QDialog& d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
+        Flecha(Panel().updOptativos, false);
+    }
+    EXPECT_EQ(Panel().lblOptativos->text(), QStringLiteral("0"));
+    EXPECT_EQ(Panel().lblSeleccionables->text(), QStringLiteral("0"));
+    EXPECT_EQ(Texto(Panel().grdOptativos, 1, 0), QStringLiteral(" -"));
+    EXPECT_TRUE(ventana->editor.GraficaOptativo.Visibles().empty());
+    mensajes.Esperar(kTitulo, kSinOptativos);
+    DobleClickGrafica();
+    mensajes.Esperar(kTitulo, kSinOptativos);
+    QTest::keyClick(Panel().grdOptativos, Qt::Key_A);
+    EXPECT_FALSE(Panel().txtValorOpt->isVisible());
+    Aceptar();
+    ASSERT_EQ(Registro().Optativos.Tamano(), 1);
+    EXPECT_EQ(Registro().Optativos(1), IndicadorOptativo{}) << "none kept as one without name";
+    EXPECT_EQ(Registro().OptativoSeleccionado, 0);
+}
+
+TEST_F(Optativos, TheSecondWindowCancelledLeavesTheRowsFunctionAsItWas) {
+    Abrir(pruebas::DeOptativos("I1C1R1"));
+    const FuncionOptativo antes = sesion().FuncionesEdicion(1);
+    pruebas::GuionModales modales;
+    modales.Esperar(QStringLiteral("frmFuncionValor"), [this](QDialog& d) {
+        frmFuncionValor& segunda = Segunda(d);
+        EXPECT_EQ(segunda.cbbTipoFuncionPrimaria->currentText(), QStringLiteral("Continua"));
+        Teclear(Hijo<QLineEdit>(d, "txtK"), QStringLiteral("0.75"));
+        mensajes.Esperar("VADRO",
+                         "Se perderán los últimos valores introducidos. Está seguro que quiere "
+                         "cerrar la ventana?",
+                         Respuesta::Si);
+        QTest::mouseClick(segunda.cmdCancelar, Qt::LeftButton);
+    });
+    Elegir(1);
+    DobleClickGrafica();
+    EXPECT_EQ(sesion().FuncionesEdicion(1), antes);
+    EXPECT_TRUE(ventana->isVisible());
+}
+
+TEST_F(Optativos, TwoBooleansAndANumericWithItsMinimumAboveItsMaximumAreStored) {
+    Abrir(pruebas::Continua());
+    ElegirTipo(*ventana, kTipoPuntuacion);
+    ClickPestana(*ventana, 1);
+    ASSERT_TRUE(Tablas().isVisible());
+    EXPECT_FALSE(ventana->pctFondoGrafica->isVisible());
+    QAbstractItemModelTester b(Tablas().grdBooleanos->model());
+    QAbstractItemModelTester n(Tablas().grdNumericos->model());
+
+    mensajes.Esperar(kTitulo, "Introduzca primero el número de elementos booleanos deseado.");
+    QTest::keyClick(Tablas().grdBooleanos, Qt::Key_Return);
+    mensajes.Esperar(kTitulo, "Introduzca primero el número de elementos numéricos deseado.");
+    QTest::keyClick(Tablas().grdNumericos, Qt::Key_1);
+
+    Flecha(Tablas().updBooleanos, true);
+    Flecha(Tablas().updBooleanos, true);
+    Flecha(Tablas().updNumericos, true);
+    EXPECT_EQ(Tablas().lblBooleanos->text(), QStringLiteral("2"));
+    EXPECT_EQ(Texto(Tablas().grdBooleanos, 2, 0), QStringLiteral("2"));
+    const auto booleano = [this](int fila, int columna, const char* texto) {
+        Celda(Tablas().grdBooleanos, Tablas().txtValorB, fila, columna, QString::fromUtf8(texto));
+    };
+    const auto numerico = [this](int columna, const char* texto, Qt::Key fin = Qt::Key_Return) {
+        Celda(Tablas().grdNumericos, Tablas().txtValorN, 1, columna, QString::fromUtf8(texto), fin);
+    };
+    booleano(1, 1, "¿Tiene licencia?");
+    booleano(1, 2, "0");
+    booleano(1, 3, "2.50");
+    booleano(2, 1, "Seguro");
+    booleano(2, 2, "1");
+    booleano(2, 3, "4");
+    EXPECT_EQ(Texto(Tablas().grdBooleanos, 1, 3), QStringLiteral("2.5")) << "plain number form";
+    // The cleared cell: Enter opens it with its text selected, Backspace empties it.
+    QTableView* grd = Tablas().grdBooleanos;
+    grd->setFocus();
+    grd->setCurrentIndex(grd->model()->index(1, 3));
+    QTest::keyClick(grd, Qt::Key_Return);
+    EXPECT_EQ(Tablas().txtValorB->selectedText(), QStringLiteral("4"));
+    QTest::keyClick(Tablas().txtValorB, Qt::Key_Backspace);
+    QTest::keyClick(Tablas().txtValorB, Qt::Key_Return);
+    EXPECT_EQ(Texto(grd, 2, 3), QString());
+
+    numerico(1, "Antigüedad", Qt::Key_Right);
+    numerico(2, "10", Qt::Key_Right);
+    numerico(3, "5");
+    mensajes.Esperar("VADRO PROGRAMADOR: error", "Debe introducir un numero válido.");
+    numerico(4, "1x");
+    EXPECT_EQ(Texto(Tablas().grdNumericos, 1, 4), QString()) << "the refused text is dropped";
+    EXPECT_FALSE(Tablas().txtValorN->isVisible());
+    numerico(4, "-1");
+    numerico(5, "3");
+    EXPECT_TRUE(mensajes.Completo());
+
+    Aceptar();
+    EXPECT_FALSE(ventana->isVisible());
+    const FuncionValor& f = Registro();
+    EXPECT_EQ(f.Tipo, FuncionPuntuacion);
+    ASSERT_EQ(f.Puntuaciones.Tamano(), 3);
+    EXPECT_EQ(f.Puntuaciones(1),
+              (Puntuacion{PuntuacionBooleana, "¿Tiene licencia?", {}, {}, 0.0, 2.5}));
+    EXPECT_EQ(f.Puntuaciones(2), (Puntuacion{PuntuacionBooleana, "Seguro", {}, {}, 1.0, {}}));
+    EXPECT_EQ(f.Puntuaciones(3),
+              (Puntuacion{PuntuacionNumerica, "Antigüedad", 10.0, 5.0, -1.0, 3.0}));
+    EXPECT_EQ(f.C, ValorLibre(50.0)) << "the continuous part as it stood";
+}
+
+TEST_F(Optativos, AScoringFunctionLeftWithoutElementsBecomesContinuousAfterOk) {
+    Abrir(pruebas::DePuntuacion());
+    ClickPestana(*ventana, 1);
+    EXPECT_EQ(Tablas().lblNumericos->text(), QStringLiteral("1"));
+    EXPECT_EQ(Texto(Tablas().grdNumericos, 1, 1), QStringLiteral("Años"));
+    pruebas::GuionModales modales;
+    for (ArribaAbajo* control : {Tablas().updBooleanos, Tablas().updNumericos}) {
+        modales.Esperar(QStringLiteral("frmConfirmacion"),
+                        [](QDialog& d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
+        Flecha(control, false);
+    }
+    EXPECT_EQ(Texto(Tablas().grdNumericos, 1, 2), QStringLiteral(" -"));
+    mensajes.Esperar("VADRO: error",
+                     "La función definida como función de puntuación, no tiene elementos "
+                     "numéricos ni booleanos. Se guardará cómo función contínua.",
+                     Respuesta::Aceptar);
+    Aceptar();
+    EXPECT_FALSE(ventana->isVisible());
+    EXPECT_EQ(Registro().Tipo, FuncionContinua);
+    EXPECT_EQ(ventana->cbbTipoFuncionPrimaria->currentText(), QStringLiteral("Continua"));
+}
+
+TEST_F(Optativos, OneDumpPerPanel) {
+    Abrir(pruebas::DeOptativos("I1C1R1"));
+    Elegir(1);
+    pruebas::CompararVolcado(Panel(), "frmFuncionValor_pctOptativos");
+    Abrir(pruebas::DePuntuacion());
+    ClickPestana(*ventana, 1);
+    pruebas::CompararVolcado(Tablas(), "frmFuncionValor_pctTablas");
+}
+
+} // namespace
+} // namespace vadro
