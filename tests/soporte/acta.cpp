@@ -1,0 +1,44 @@
+#include "soporte/acta.h"
+
+#include "soporte/datos.h"
+
+#include <gtest/gtest.h>
+
+namespace vadro::pruebas {
+namespace {
+
+const char* const kRespuestas[] = {"Aceptar", "Cancelar", "Sí", "No", "Reintentar"};
+
+} // namespace
+
+Acta::Acta() : anterior_(InstalarMensajes([this](const Mensaje& m) { return Anotar(m); })) {}
+
+Acta::~Acta() {
+    InstalarMensajes(std::move(anterior_));
+}
+
+void Acta::Fila(const std::string& entrada, const std::string& salida) {
+    texto += entrada + " -> " + salida + "\n" + pendientes_;
+    pendientes_.clear();
+}
+
+void Acta::Comparar(const std::string& datos) const {
+    EXPECT_EQ(texto + pendientes_, Datos(datos, texto + pendientes_));
+}
+
+Respuesta Acta::Anotar(const Mensaje& mensaje) {
+    Respuesta respuesta = PrimerBoton(mensaje.botones);
+    if (!respuestas.empty()) {
+        respuesta = respuestas.front();
+        respuestas.pop_front();
+    }
+    std::string linea = "    [" + mensaje.titulo + "] " + mensaje.texto + " => " +
+                        kRespuestas[static_cast<int>(respuesta)];
+    for (std::size_t k = 0; (k = linea.find('\n', k)) != std::string::npos;) {
+        linea.replace(k, 1, "\\n");
+    }
+    pendientes_ += linea + "\n";
+    return respuesta;
+}
+
+} // namespace vadro::pruebas

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/core/mensajes.h"
+
+#include <deque>
+#include <string>
+
+namespace vadro::pruebas {
+
+// A transcript of a table of cases: each row's input and outcome, then every message box the
+// row showed ("[title] text => answer", line breaks written "\n"), answered in turn by
+// `respuestas` and then by their first button. Compared as a whole with a data file, so the
+// exact messages, their order and their answers are checked without being restated in code.
+// Installed for the life of the object, in place of the strict script.
+class Acta {
+public:
+    Acta();
+    ~Acta();
+    Acta(const Acta&) = delete;
+    Acta& operator=(const Acta&) = delete;
+
+    // One row: what was done, what came of it, then the messages it showed.
+    void Fila(const std::string& entrada, const std::string& salida);
+    // Compares the transcript with tests/datos/<datos>.
+    void Comparar(const std::string& datos) const;
+
+    std::deque<Respuesta> respuestas;
+    std::string texto;
+
+private:
+    Respuesta Anotar(const Mensaje& mensaje);
+
+    std::string pendientes_;
+    FuncionMensajes anterior_;
+};
+
+} // namespace vadro::pruebas
