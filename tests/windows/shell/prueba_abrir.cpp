@@ -62,9 +62,7 @@ TEST_F(Abrir, AModelMadeOutsideOpensAtEjesWithItsCaptionLabelsAndStatus) {
     AbrirDesdeBarra(ruta);
     EXPECT_EQ(Titulo(), "VADRO PROGRAMADOR - [" + ruta + "]");
     EXPECT_EQ(sesion().modelo.Nombre, "Depuradora");
-    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
-    EXPECT_EQ(Estado(), "Posición: ejes");
+    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
     for (int i : {1, 2, 3, 6}) {
         EsperarNormal(i);
     }

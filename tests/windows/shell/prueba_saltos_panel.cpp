@@ -63,9 +63,7 @@ TEST_F(SaltosPanel, ResumenFromEjesAcceptsTheDesignWindows) {
     // The components window holds one component, which its acceptance writes to the model.
     principal.Abierta<frmComponentes>()->Edicion().AñadirComponente("Bomba");
     PulsarEtiqueta(4);
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
-    EXPECT_EQ(Estado(), "Posición: resumen");
-    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
+    EXPECT_EQ(Situacion(), "Resumen | Posición: resumen | frmResumen");
     EsperarNormal(2);
     EsperarPendiente(3);
     EXPECT_FALSE(principal.pctFondo->isVisible());
@@ -100,9 +98,7 @@ TEST_F(SaltosPanel, PesosFromEjesSkipsTheQuestionAndLeavesTheAxes) {
     NuevoModelo();
     UnRequerimiento();
     PulsarEtiqueta(6); // the script of modal windows would fail on the question
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ponderacion");
-    EXPECT_EQ(Estado(), "Posición: ponderacion");
-    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmPonderacion"}));
+    EXPECT_EQ(Situacion(), "Ponderacion | Posición: ponderacion | frmEjes frmPonderacion");
     EXPECT_FALSE(principal.mnuImportar->menuAction()->isEnabled());
     EsperarAjusteB();
 }
