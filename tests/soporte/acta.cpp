@@ -27,6 +27,7 @@ void Acta::Comparar(const std::string& datos) const {
 }
 
 Respuesta Acta::Anotar(const Mensaje& mensaje) {
+    vistos.push_back(mensaje);
     Respuesta respuesta = PrimerBoton(mensaje.botones);
     if (!respuestas.empty()) {
         respuesta = respuestas.front();

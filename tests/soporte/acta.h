@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <string>
+#include <vector>
 
 namespace vadro::pruebas {
 
@@ -26,6 +27,8 @@ public:
 
     std::deque<Respuesta> respuestas;
     std::string texto;
+    // Every message shown, for what the text leaves out (icons, buttons).
+    std::vector<Mensaje> vistos;
 
 private:
     Respuesta Anotar(const Mensaje& mensaje);
