@@ -35,8 +35,10 @@ Respuesta Acta::Anotar(const Mensaje& mensaje) {
     }
     std::string linea = "    [" + mensaje.titulo + "] " + mensaje.texto + " => " +
                         kRespuestas[static_cast<int>(respuesta)];
-    for (std::size_t k = 0; (k = linea.find('\n', k)) != std::string::npos;) {
-        linea.replace(k, 1, "\\n");
+    for (const auto& [caracter, escrito] : {std::pair{'\n', "\\n"}, {'\r', "\\r"}}) {
+        for (std::size_t k = 0; (k = linea.find(caracter, k)) != std::string::npos;) {
+            linea.replace(k, 1, escrito);
+        }
     }
     pendientes_ += linea + "\n";
     return respuesta;

@@ -9,7 +9,7 @@
 namespace vadro::pruebas {
 
 // A transcript of a table of cases: each row's input and outcome, then every message box the
-// row showed ("[title] text => answer", line breaks written "\n"), answered in turn by
+// row showed ("[title] text => answer", line breaks written "\n" and "\r"), answered in turn by
 // `respuestas` and then by their first button. Compared as a whole with a data file, so the
 // exact messages, their order and their answers are checked without being restated in code.
 // Installed for the life of the object, in place of the strict script.
