@@ -1,5 +1,7 @@
 #include "ventana_principal.h"
 
+#include "soporte/volcado_ventana.h"
+
 #include "windows/trees/frmComponentes.h"
 #include "windows/trees/frmEtapas.h"
 #include "windows/trees/frmRequerimientos.h"
@@ -36,18 +38,6 @@ protected:
     }
 };
 
-TEST_F(LineaPosiciones, BeforeAModelTheLineCannotBeWalked) {
-    EXPECT_EQ(principal.windowTitle().toStdString(), "VADRO PROGRAMADOR");
-    EXPECT_EQ(Situacion(), " | Posición:  |");
-    EXPECT_FALSE(principal.pctPrincipal->isVisible());
-    EXPECT_FALSE(principal.mnuModelo->menuAction()->isVisible());
-    EXPECT_FALSE(Habilitado(8));
-    EXPECT_FALSE(Habilitado(9));
-    for (int i = 10; i <= 13; ++i) {
-        EXPECT_FALSE(Visible(i));
-    }
-}
-
 TEST_F(LineaPosiciones, AWalkFromANewModelToTheEndOfTheLineAndBack) {
     // Nuevo: the panel shows before the properties, the axes window loads after them.
     modales.Esperar(QStringLiteral("frmPropiedades"), [this](QDialog& propiedades) {
@@ -57,14 +47,8 @@ TEST_F(LineaPosiciones, AWalkFromANewModelToTheEndOfTheLineAndBack) {
         Hijo<QPushButton>(propiedades, "cmdAceptar")->click();
     });
     PulsarBoton("Nuevo");
-    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
-    EXPECT_TRUE(principal.pctFondo->isVisible()) << "the axes stand in front of the background";
-    EXPECT_TRUE(principal.mnuModelo->menuAction()->isVisible());
-    EXPECT_FALSE(Habilitado(8));
-    EXPECT_TRUE(Habilitado(9));
-    for (int i = 10; i <= 13; ++i) {
-        EXPECT_TRUE(Visible(i));
-    }
+    // The axes stand in front of the background; the model menu and the design group show.
+    pruebas::CompararVolcado(principal, "frmPrincipal_ejes");
     for (int i : {1, 2, 3}) {
         EsperarPendiente(i);
     }
@@ -150,13 +134,9 @@ TEST_F(LineaPosiciones, RetrocederFromANewModelLeavesForTheEmptyDesk) {
                              principal.mnuComponentes, principal.mnuEtapas}) {
         EXPECT_FALSE(entrada->isEnabled());
     }
-    EXPECT_FALSE(principal.cmdRetroceder->isEnabled());
-    EXPECT_FALSE(principal.cmdContinuar->isEnabled());
-    EXPECT_FALSE(Habilitado(8));
-    EXPECT_FALSE(Habilitado(9));
-    for (int i = 10; i <= 13; ++i) {
-        EXPECT_TRUE(Visible(i)) << "the design group stays";
-    }
+    EXPECT_FALSE(principal.cmdRetroceder->isEnabled() || principal.cmdContinuar->isEnabled());
+    EXPECT_FALSE(Habilitado(8) || Habilitado(9));
+    EXPECT_TRUE(Visible(10) && Visible(11) && Visible(12) && Visible(13)) << "the design group";
     EXPECT_EQ(sesion().modelo, antes) << "the requirements window went unaccepted";
 }
 
