@@ -8,6 +8,9 @@ namespace vadro::pruebas {
 namespace {
 
 const char* const kRespuestas[] = {"Aceptar", "Cancelar", "Sí", "No", "Reintentar"};
+const char* const kIconos[] = {"Ninguno", "Critico", "Pregunta", "Exclamacion", "Informacion"};
+const char* const kBotones[] = {"Aceptar", "AceptarCancelar", "SiNo", "SiNoCancelar",
+                                "ReintentarCancelar"};
 
 } // namespace
 
@@ -35,6 +38,10 @@ Respuesta Acta::Anotar(const Mensaje& mensaje) {
     }
     std::string linea = "    [" + mensaje.titulo + "] " + mensaje.texto + " => " +
                         kRespuestas[static_cast<int>(respuesta)];
+    if (iconos) {
+        linea += std::string(" {") + kIconos[static_cast<int>(mensaje.icono)] + " " +
+                 kBotones[static_cast<int>(mensaje.botones)] + "}";
+    }
     for (const auto& [caracter, escrito] : {std::pair{'\n', "\\n"}, {'\r', "\\r"}}) {
         for (std::size_t k = 0; (k = linea.find(caracter, k)) != std::string::npos;) {
             linea.replace(k, 1, escrito);

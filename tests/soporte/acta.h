@@ -26,6 +26,8 @@ public:
     void Comparar(const std::string& datos) const;
 
     std::deque<Respuesta> respuestas;
+    // Each message line also names its icon and buttons: "{Pregunta SiNo}".
+    bool iconos = false;
     std::string texto;
     // Every message shown, for what the text leaves out (icons, buttons).
     std::vector<Mensaje> vistos;
