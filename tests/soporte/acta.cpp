@@ -12,6 +12,16 @@ const char* const kIconos[] = {"Ninguno", "Critico", "Pregunta", "Exclamacion", 
 const char* const kBotones[] = {"Aceptar", "AceptarCancelar", "SiNo", "SiNoCancelar",
                                 "ReintentarCancelar"};
 
+// Line breaks written as "\n" and "\r", so that each row stays on one line.
+std::string Escapado(std::string linea) {
+    for (const auto& [caracter, escrito] : {std::pair{'\n', "\\n"}, {'\r', "\\r"}}) {
+        for (std::size_t k = 0; (k = linea.find(caracter, k)) != std::string::npos;) {
+            linea.replace(k, 1, escrito);
+        }
+    }
+    return linea;
+}
+
 } // namespace
 
 Acta::Acta() : anterior_(InstalarMensajes([this](const Mensaje& m) { return Anotar(m); })) {}
@@ -21,7 +31,7 @@ Acta::~Acta() {
 }
 
 void Acta::Fila(const std::string& entrada, const std::string& salida) {
-    texto += entrada + " -> " + salida + "\n" + pendientes_;
+    texto += Escapado(entrada + " -> " + salida) + "\n" + pendientes_;
     pendientes_.clear();
 }
 
@@ -42,12 +52,7 @@ Respuesta Acta::Anotar(const Mensaje& mensaje) {
         linea += std::string(" {") + kIconos[static_cast<int>(mensaje.icono)] + " " +
                  kBotones[static_cast<int>(mensaje.botones)] + "}";
     }
-    for (const auto& [caracter, escrito] : {std::pair{'\n', "\\n"}, {'\r', "\\r"}}) {
-        for (std::size_t k = 0; (k = linea.find(caracter, k)) != std::string::npos;) {
-            linea.replace(k, 1, escrito);
-        }
-    }
-    pendientes_ += linea + "\n";
+    pendientes_ += Escapado(linea) + "\n";
     return respuesta;
 }
 

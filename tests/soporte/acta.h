@@ -20,7 +20,8 @@ public:
     Acta(const Acta&) = delete;
     Acta& operator=(const Acta&) = delete;
 
-    // One row: what was done, what came of it, then the messages it showed.
+    // One row: what was done, what came of it (line breaks written as in messages), then the
+    // messages it showed.
     void Fila(const std::string& entrada, const std::string& salida);
     // Compares the transcript with tests/datos/<datos>.
     void Comparar(const std::string& datos) const;
