@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vadro::pruebas {
@@ -29,6 +30,8 @@ public:
     std::deque<Respuesta> respuestas;
     // Each message line also names its icon and buttons: "{Pregunta SiNo}".
     bool iconos = false;
+    // Texts written in their place on comparing (a test's own directory, say).
+    std::vector<std::pair<std::string, std::string>> sustituciones;
     std::string texto;
     // Every message shown, for what the text leaves out (icons, buttons).
     std::vector<Mensaje> vistos;
