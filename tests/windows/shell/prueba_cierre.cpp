@@ -56,15 +56,13 @@ TEST_F(Cierre, CancelReloadsTheWindowOfEachPosition) {
     principal.cmdContinuar->click();
     EsperarPregunta(Respuesta::Cancelar);
     EXPECT_FALSE(principal.close());
-    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
+    EXPECT_EQ(Situacion(), "Resumen | Posición: resumen | frmResumen");
 
     UnRequerimiento();
     ContinuarAceptandoPermisos();
     EsperarPregunta(Respuesta::Cancelar);
     EXPECT_FALSE(principal.close());
-    EXPECT_EQ(Hijas(), Strings{"frmPonderacion"});
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ponderacion");
+    EXPECT_EQ(Situacion(), "Ponderacion | Posición: ponderacion | frmPonderacion");
 }
 
 TEST_F(Cierre, CancelAtTheEmptyDeskBringsNothingBack) {
