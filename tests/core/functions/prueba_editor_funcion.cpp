@@ -403,44 +403,27 @@ TEST_F(Editor, LeavingACellCommitsAGoodTextAndKeepsTheOldOneOtherwise) {
 TEST_F(Editor, TheKeysOfTheFloatingInputValidateCommitAndMove) {
     sesion().MostrarAvisoFuncionValor = false;
     Escalones({{"1", "=0", "<10", "0"}, {"2", "=10", "=20", "1"}});
-    struct Caso {
-        int fila;
-        int columna;
-        int tecla;
-        const char* texto;
-        AccionEntrada accion;
-        int filaDespues;
-        int columnaDespues;
+    const char* const acciones[] = {"nothing", "committed", "discarded", "moved", "kept open"};
+    const std::tuple<int, int, int, const char*> casos[] = {
+        {1, 1, 37, "=0"},  {1, 2, 37, "<10"}, {1, 3, 39, "0"},   {1, 1, 39, "=0"},
+        {1, 1, 38, "=0"},  {1, 1, 40, "=0"},  {2, 1, 40, "=10"}, {1, 3, 40, "0.5"},
+        {2, 2, 13, "=20"}, {2, 2, 27, "=25"}, {2, 2, 65, "=25"},
     };
-    const Caso casos[] = {
-        {1, 1, 37, "=0", AccionEntrada::Movida, 1, 1}, // left at column 1 stays
-        {1, 2, 37, "<10", AccionEntrada::Movida, 1, 1},
-        {1, 3, 39, "0", AccionEntrada::Movida, 1, 3},
-        {1, 1, 39, "=0", AccionEntrada::Movida, 1, 2},
-        {1, 1, 38, "=0", AccionEntrada::Movida, 1, 1},
-        {1, 1, 40, "=0", AccionEntrada::Movida, 2, 1},
-        {2, 1, 40, "=10", AccionEntrada::Movida, 2, 1},
-        {1, 3, 40, "0.5", AccionEntrada::Retenida, 1, 3},
-        {2, 2, 13, "=20", AccionEntrada::Confirmada, 2, 2},
-        {2, 2, 27, "=25", AccionEntrada::Descartada, 2, 2},
-        {2, 2, 65, "=25", AccionEntrada::Ninguna, 2, 2},
-    };
-    for (const Caso& caso : casos) {
-        editor.FilaActual = caso.fila;
-        editor.ColumnaActual = caso.columna;
+    Acta acta;
+    for (const auto& [fila, columna, tecla, texto] : casos) {
+        editor.FilaActual = fila;
+        editor.ColumnaActual = columna;
         ASSERT_TRUE(editor.AbrirCelda());
-        if (caso.accion == AccionEntrada::Retenida) {
-            mensajes.Esperar(kTituloFuncion,
-                             "El valor inicial del primer intervalo tiene que ser 0 o 1.");
-        }
-        EXPECT_EQ(editor.TeclaEntrada(caso.tecla, caso.texto), caso.accion) << caso.tecla;
-        EXPECT_EQ(editor.FilaActual, caso.filaDespues) << caso.tecla;
-        EXPECT_EQ(editor.ColumnaActual, caso.columnaDespues) << caso.tecla;
-        const bool abierta =
-            caso.accion == AccionEntrada::Retenida || caso.accion == AccionEntrada::Ninguna;
-        EXPECT_EQ(editor.EntradaAbierta, abierta) << caso.tecla;
+        const AccionEntrada accion = editor.TeclaEntrada(tecla, texto);
+        acta.Fila("key " + std::to_string(tecla) + " at " + std::to_string(fila) + "," +
+                      std::to_string(columna) + " on '" + texto + "'",
+                  std::string(acciones[static_cast<int>(accion)]) + ", now at " +
+                      std::to_string(editor.FilaActual) + "," +
+                      std::to_string(editor.ColumnaActual) +
+                      (editor.EntradaAbierta ? ", input open" : ""));
         editor.EntradaAbierta = false;
     }
+    acta.Comparar("editor_funcion/teclas_entrada.txt");
     EXPECT_EQ(editor.Filas[1][2], "=20") << "Escape kept the cell";
 }
 
@@ -528,44 +511,47 @@ TEST_F(Editor, TheCountOfIntervalsGrowsFreelyAndShrinksOnlyWhenConfirmed) {
 }
 
 TEST_F(Editor, TheKindListAndTheTabsShowTheirPanels) {
-    using P = Paneles;
-    struct Caso {
-        int pestanaAntes;
-        int tipo;
-        int pestanaClick; // 0: no click on the tabs afterwards
-        P paneles;
-        int pestana;
-    };
-    const Caso casos[] = {
-        {1, kTipoContinua, 0, P{true, true, false, false, false, false, true}, 1},
-        {2, kTipoContinua, 0, P{true, true, false, false, false, false, true}, 1},
-        {2, kTipoEscalon, 0, P{true, false, true, false, false, false, false}, 1},
-        {1, kTipoPuntuacion, 0, P{true, true, false, false, false, false, true}, 1},
-        {2, kTipoPuntuacion, 0, P{false, true, false, true, false, false, true}, 2},
-        {1, kTipoPuntuacion, 2, P{false, true, false, true, false, false, true}, 2},
-        {1, kTipoContinua, 2, P{false, true, false, false, false, true, true}, 2},
-        {1, kTipoEscalon, 2, P{false, false, true, false, false, true, false}, 2},
-        {2, kTipoPuntuacion, 1, P{true, true, false, false, false, false, true}, 1},
-    };
-    for (const Caso& caso : casos) {
-        EditorFuncion e;
-        e.Pestana = caso.pestanaAntes;
-        e.ClickTipo(caso.tipo);
-        if (caso.pestanaClick != 0) {
-            e.ClickPestana(caso.pestanaClick);
+    const auto paneles = [](const EditorFuncion& e) {
+        const Paneles& p = e.paneles;
+        std::string texto;
+        for (const auto& [visible, nombre] : {std::pair{p.FondoGrafica, "FondoGrafica"},
+                                              {p.Continua, "Continua"},
+                                              {p.Escalon, "Escalon"},
+                                              {p.Tablas, "Tablas"},
+                                              {p.Optativos, "Optativos"},
+                                              {p.Error, "Error"},
+                                              {p.Referencias, "Referencias"}}) {
+            texto += visible ? std::string(" ") + nombre : "";
         }
-        EXPECT_EQ(e.paneles, caso.paneles) << caso.tipo << " " << caso.pestanaClick;
-        EXPECT_EQ(e.Pestana, caso.pestana);
+        return "tab " + std::to_string(e.Pestana) + ":" + texto;
+    };
+    // The tab before, the kind chosen, the tab clicked afterwards (0: none).
+    const std::array<int, 3> casos[] = {
+        {1, kTipoContinua, 0},   {2, kTipoContinua, 0},   {2, kTipoEscalon, 0},
+        {1, kTipoPuntuacion, 0}, {2, kTipoPuntuacion, 0}, {1, kTipoPuntuacion, 2},
+        {1, kTipoContinua, 2},   {1, kTipoEscalon, 2},    {2, kTipoPuntuacion, 1},
+    };
+    Acta acta;
+    for (const auto& [antes, tipo, pestana] : casos) {
+        EditorFuncion e;
+        e.Pestana = antes;
+        e.ClickTipo(tipo);
+        if (pestana != 0) {
+            e.ClickPestana(pestana);
+        }
+        acta.Fila("tab " + std::to_string(antes) + ", kind " + std::to_string(tipo) +
+                      ", click on tab " + std::to_string(pestana),
+                  paneles(e));
     }
     EditorFuncion e;
     e.ClickTipo(kTipoEscalon);
     e.ClickOptativos(true);
-    EXPECT_FALSE(e.TipoHabilitado);
-    EXPECT_FALSE(e.PlantillasHabilitadas);
-    EXPECT_TRUE(e.paneles.Optativos);
-    EXPECT_FALSE(e.paneles.FondoGrafica);
+    acta.Fila("steps, then the optional indicators",
+              paneles(e) + (e.TipoHabilitado ? ", kind list on" : "") +
+                  (e.PlantillasHabilitadas ? ", templates on" : ""));
     e.ClickOptativos(false);
-    EXPECT_EQ(e.paneles, (P{true, false, true, false, false, false, false})) << "the kind again";
+    acta.Fila("the optional indicators off", paneles(e));
+    acta.Comparar("editor_funcion/paneles.txt");
 }
 
 TEST_F(Editor, ReadingAndWritingKeepEveryKindOfRecord) {
