@@ -23,6 +23,12 @@ const QColor kRojo(255, 0, 0);
 const QColor kVerde(0, 255, 0);
 const QColor kAmarillo(255, 255, 192);
 const std::string kTituloPonderacion = "VADRO PROGRAMADOR: Ponderación";
+const std::string kAvisoAhp = "La matriz de pesos AHP ha sido modificada y se perderán los "
+                              "valores introducidos.\nDesea continuar?";
+const std::string kIncompleta =
+    "La matriz de ponderación en modo directo no está completa. Desea continuar?";
+const std::string kTituloNo = "VADRO PROGRAMADOR: matriz NO consistente";
+const std::string kNoConsistente = "La matriz de pesos NO es consistente. Desea modificarla?";
 const std::string kNoPositivo = "El valor introducido no puede ser cero ni negativo.\nSi no quiere "
                                 "introducir ahora un nuevo valor, deje la casilla en blanco.";
 
@@ -281,14 +287,12 @@ TEST_F(VentanaPesos, AcceptanceWithAHighRatioAnsweredNoWritesTheSet) {
     Teclear(1, 3, "0.2");
     Teclear(2, 3, "8");
     const std::string pesosMostrados = Pesos(*w.grdSaaty);
-    mensajes.Esperar("VADRO PROGRAMADOR: matriz NO consistente",
-                     "La matriz de pesos NO es consistente. Desea modificarla?", Respuesta::Si);
+    mensajes.Esperar(kTituloNo, kNoConsistente, Respuesta::Si);
     w.cmdAceptar->click();
     EXPECT_TRUE(w.isVisible()) << "Yes goes back to the matrix";
     EXPECT_TRUE(Nodo(1).Peso.EsVacio());
 
-    mensajes.Esperar("VADRO PROGRAMADOR: matriz NO consistente",
-                     "La matriz de pesos NO es consistente. Desea modificarla?", Respuesta::No);
+    mensajes.Esperar(kTituloNo, kNoConsistente, Respuesta::No);
     w.cmdAceptar->click();
     EXPECT_FALSE(w.isVisible());
     EXPECT_EQ(w.result(), QDialog::Accepted);
@@ -331,9 +335,7 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     QTest::mouseClick(w.grdDirecto->viewport(), Qt::LeftButton, {}, total.center());
     EXPECT_TRUE(w.txtValor->isHidden()) << "the total row takes no input";
 
-    mensajes.Esperar("VADRO PROGRAMADOR",
-                     "La matriz de ponderación en modo directo no está completa. Desea continuar?",
-                     Respuesta::No);
+    mensajes.Esperar("VADRO PROGRAMADOR", kIncompleta, Respuesta::No);
     w.cmdAceptar->click();
     EXPECT_TRUE(Nodo(1).Peso.EsVacio());
 
@@ -342,13 +344,8 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     // The third score was typed in the percentage column: its score cell still shows nothing,
     // so the list is incomplete. Yes writes; the matrix was typed in, so the first warning
     // follows, and No keeps the window with the data written.
-    mensajes.Esperar("VADRO PROGRAMADOR",
-                     "La matriz de ponderación en modo directo no está completa. Desea continuar?",
-                     Respuesta::Si);
-    mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos",
-                     "La matriz de pesos AHP ha sido modificada y se perderán los valores "
-                     "introducidos.\nDesea continuar?",
-                     Respuesta::No);
+    mensajes.Esperar("VADRO PROGRAMADOR", kIncompleta, Respuesta::Si);
+    mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos", kAvisoAhp, Respuesta::No);
     w.cmdAceptar->click();
     EXPECT_TRUE(w.isVisible());
     EXPECT_EQ(Nodo(3).Peso, ValorLibre(60.0));
@@ -363,10 +360,7 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     w.cmdCancelar->click();
     EXPECT_TRUE(w.isVisible());
     mensajes.Esperar(tituloCerrar, cerrar, Respuesta::Si);
-    mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos",
-                     "La matriz de pesos AHP ha sido modificada y se perderán los valores "
-                     "introducidos.\nDesea continuar?",
-                     Respuesta::Si);
+    mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos", kAvisoAhp, Respuesta::Si);
     w.cmdCancelar->click();
     EXPECT_FALSE(w.isVisible());
 }
