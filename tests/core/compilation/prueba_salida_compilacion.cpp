@@ -5,6 +5,7 @@
 #include "core/compilation/informe_compilacion.h"
 #include "core/core/error_ejecucion.h"
 #include "core/files/modelo_archivo.h"
+#include "soporte/acta.h"
 #include "soporte/errores.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/modelo_sano.h"
@@ -20,19 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string kCorrecta = "VADRO PROGRAMADOR: compilación correcta";
-const std::string kPregunta =
-    "El modelo no contiene errores.\n"
-    "Desea crear el archivo compilado (*.vdc) utilizable por el módulo VADRO USUARIO?";
-const std::string kIncorrecta = "VADRO PROGRAMADOR: compilación incorrecta";
-const std::string kErrores = "El modelo contiene errores.\nCorríjalos para poder crear el "
-                             "archivo utilizable por el módulo VADRO USUARIO.";
 const std::string kTituloVdc = "Guardar modelo compilado como...";
-
-std::string Anuncio(const std::string& ruta) {
-    return "Se ha creado el archivo compilado " + ruta +
-           "\nEste archivo será utilizable por el módulo VADRO USUARIO.";
-}
 
 // A sound model whose only findings are warnings: it has no life-cycle stages.
 Modelo ConAvisos() {
@@ -45,70 +34,59 @@ Modelo ConAvisos() {
 class SalidaCompilacion : public pruebas::PruebaSesion {
 protected:
     bool Concluir() { return ConcluirCompilacion(sesion(), ComprobarModelo(sesion().modelo)); }
-    bool DirectorioVacio() const { return fs::is_empty(Directorio()); }
 
     pruebas::GuionDialogos dialogos;
 };
 
-TEST_F(SalidaCompilacion, AModelWithErrorsHearsSoAndIsOfferedNoFile) {
-    sesion().modelo = pruebas::ModeloCorrecto();
-    sesion().modelo.Requerimientos(1).Peso = "";
-    mensajes.Esperar(kIncorrecta, kErrores);
-    EXPECT_EQ(Desenlace(ComprobarModelo(sesion().modelo)), DesenlaceCompilacion::Incorrecta);
-    EXPECT_FALSE(Concluir());
-    EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Informacion);
-    EXPECT_EQ(mensajes.Vistos().at(0).botones, Botones::Aceptar);
-    EXPECT_TRUE(DirectorioVacio());
-    EXPECT_FALSE(sesion().modelo.Compilado);
-}
-
-TEST_F(SalidaCompilacion, WarningsOnlyLeadToTheCompiledFileWhichHoldsTheModel) {
+// The outcome of a check: errors are told and offered no file; a sound model is offered the
+// compiled file, which No, a cancelled dialog or a failing dialog leave unwritten.
+TEST_F(SalidaCompilacion, TheOutcomeAndTheCompiledFile) {
     EXPECT_EQ(Desenlace(ComprobarModelo(pruebas::ModeloCorrecto())),
               DesenlaceCompilacion::Correcta);
-    sesion().modelo = ConAvisos();
-    EXPECT_EQ(Desenlace(ComprobarModelo(sesion().modelo)), DesenlaceCompilacion::CorrectaConAvisos);
+    EXPECT_EQ(Desenlace(ComprobarModelo(ConAvisos())), DesenlaceCompilacion::CorrectaConAvisos);
+    Modelo conErrores = pruebas::ModeloCorrecto();
+    conErrores.Requerimientos(1).Peso = "";
+    EXPECT_EQ(Desenlace(ComprobarModelo(conErrores)), DesenlaceCompilacion::Incorrecta);
     const std::string ruta = Ruta("depuradora.vdc");
-    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::Si).Esperar(kCorrecta, Anuncio(ruta));
-    dialogos.Elegir(kTituloVdc, ruta);
-    EXPECT_TRUE(Concluir());
-    EXPECT_EQ(mensajes.Vistos().at(0).botones, Botones::SiNo);
-    EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Pregunta);
-    EXPECT_EQ(mensajes.Vistos().at(1).icono, Icono::Informacion);
-    EXPECT_TRUE(sesion().modelo.Compilado);
+    enum Dialogo { Ninguno, Elige, Cancela, Falla };
+    struct Caso {
+        const char* caso;
+        bool errores;
+        Respuesta respuesta;
+        Dialogo dialogo;
+    };
+    const Caso casos[] = {{"errors", true, Respuesta::Aceptar, Ninguno},
+                          {"warnings, No", false, Respuesta::No, Ninguno},
+                          {"warnings, Yes, dialog cancelled", false, Respuesta::Si, Cancela},
+                          {"warnings, Yes, dialog failing", false, Respuesta::Si, Falla},
+                          {"warnings, Yes, a file chosen", false, Respuesta::Si, Elige}};
+    pruebas::Acta acta;
+    acta.iconos = true;
+    for (const Caso& c : casos) {
+        sesion().modelo = c.errores ? conErrores : ConAvisos();
+        pruebas::GuionDialogos guion;
+        if (c.dialogo == Elige) {
+            guion.Elegir(kTituloVdc, ruta);
+        } else if (c.dialogo == Cancela) {
+            guion.Cancelar(kTituloVdc);
+        } else if (c.dialogo == Falla) {
+            InstalarDialogos([](const PeticionDialogo&) -> std::optional<std::string> {
+                throw ErrorEjecucion(ErrPermiso);
+            });
+        }
+        acta.respuestas = {c.respuesta};
+        const bool concluida = Concluir();
+        acta.Fila(c.caso, std::string(concluida ? "done" : "not done") +
+                              (sesion().modelo.Compilado ? ", compiled" : "") +
+                              (fs::is_empty(Directorio()) ? "" : ", a file written"));
+    }
+    acta.sustituciones = {{Directorio(), "<programa>"}};
+    acta.Comparar("compilacion/conclusion.txt");
     Modelo leido;
     CargarModelo(leido, ruta);
     EXPECT_EQ(leido.Nombre, "Depuradora");
     EXPECT_EQ(ComprobarModelo(leido).Lineas(), ComprobarModelo(sesion().modelo).Lineas());
 }
-
-TEST_F(SalidaCompilacion, NoAndACancelledDialogBothEndInSilenceWithoutAFile) {
-    sesion().modelo = ConAvisos();
-    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::No);
-    EXPECT_FALSE(Concluir());
-    EXPECT_TRUE(dialogos.Peticiones().empty());
-
-    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::Si);
-    dialogos.Cancelar(kTituloVdc);
-    EXPECT_FALSE(Concluir());
-    EXPECT_TRUE(DirectorioVacio());
-    EXPECT_FALSE(sesion().modelo.Compilado);
-}
-
-TEST_F(SalidaCompilacion, AFailureOfTheWritingIsToldPlainlyAsNumberAndDescription) {
-    sesion().modelo = ConAvisos();
-    const FuncionDialogos guion =
-        InstalarDialogos([](const PeticionDialogo&) -> std::optional<std::string> {
-            throw ErrorEjecucion(ErrPermiso);
-        });
-    mensajes.Esperar(kCorrecta, kPregunta, Respuesta::Si)
-        .Esperar("VADRO PROGRAMADOR", "70: Permiso denegado");
-    EXPECT_FALSE(Concluir());
-    InstalarDialogos(guion);
-    EXPECT_EQ(mensajes.Vistos().at(1).icono, Icono::Ninguno);
-    EXPECT_EQ(mensajes.Vistos().at(1).botones, Botones::Aceptar);
-    EXPECT_FALSE(sesion().modelo.Compilado);
-}
-
 // ---- Printing the report
 
 class ImpresionInforme : public pruebas::PruebaSesion {

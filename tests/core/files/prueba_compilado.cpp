@@ -3,6 +3,7 @@
 #include "core/files/compilado.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
+#include "soporte/acta.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/prueba_sesion.h"
 
@@ -29,61 +30,58 @@ protected:
     pruebas::GuionDialogos dialogos;
 };
 
-TEST_F(Compilado, ANewModelIsOfferedTheProgramDirectoryAndIsWrittenScrambled) {
+// Where the save dialog of the compiled file opens (the program directory for a new model; an
+// existing compiled file by folder and base name; a vanished one falls back to the model's own
+// path), and what is written and told for each answer.
+TEST_F(Compilado, TheDialogTheFileAndTheNotice) {
+    Escribir(Ruta("modelos/previo.vdc"), "x");
+    Escribir(Ruta("modelos/m.vdm"), "x");
+    struct Caso {
+        const char* compilado; // the model's compiled file before
+        const char* archivo;   // its model file
+        const char* elegido;   // nullptr: the dialog is cancelled
+    };
+    const Caso casos[] = {
+        {"", "", "modelos/d.vdc"},
+        {"modelos/previo.vdc", "", "modelos/previo.vdc"},
+        {"ya-no-esta.vdc", "modelos/m.vdm", nullptr},
+        {"", "", "no-existe/d.vdc"},
+    };
+    pruebas::Acta acta;
+    for (const Caso& c : casos) {
+        Modelo& m = sesion().modelo;
+        m.ArchivoCompilado = *c.compilado ? Ruta(c.compilado) : "";
+        m.Archivo = *c.archivo ? Ruta(c.archivo) : "";
+        m.Compilado = false;
+        m.Modificado = true;
+        pruebas::GuionDialogos guion;
+        c.elegido ? guion.Elegir(kTitulo, Ruta(c.elegido)) : guion.Cancelar(kTitulo);
+        const bool escrito = EscribirCompilado(sesion());
+        const PeticionDialogo& p = guion.Peticiones().at(0);
+        acta.Fila(std::string("compiled '") + c.compilado + "', model '" + c.archivo +
+                      "', chosen '" + (c.elegido ? c.elegido : "(cancel)") + "'",
+                  "dialog in '" + p.directorioInicial + "' named '" + p.nombreArchivo + "'; " +
+                      (escrito ? "written" : "not written") + (m.Compilado ? ", compiled" : "") +
+                      (m.Modificado ? ", modified" : "") + ", compiled file '" +
+                      m.ArchivoCompilado + "'");
+    }
+    acta.sustituciones = {{Directorio(), "<programa>"}};
+    acta.Comparar("archivos/compilado.txt");
+}
+
+TEST_F(Compilado, TheFileIsWrittenScrambledAndNamesItself) {
     const std::string ruta = Ruta("modelos/d.vdc");
     dialogos.Elegir(kTitulo, ruta);
     mensajes.Esperar(kCorrecta, Aviso(ruta));
     ASSERT_TRUE(EscribirCompilado(sesion()));
     const PeticionDialogo& p = dialogos.Peticiones().at(0);
-    EXPECT_EQ(p.directorioInicial, Directorio());
-    EXPECT_EQ(p.nombreArchivo, "");
     EXPECT_EQ(p.filtro, "Archivos compilados (*.vdc)|*.vdc|Todos los archivos (*.*)|*.*");
     EXPECT_NE(p.flags & DlgPreguntarSobrescribir, 0);
-    const Modelo& m = sesion().modelo;
-    EXPECT_EQ(m.ArchivoCompilado, ruta);
-    EXPECT_EQ(m.Aplicacion, VersionPrograma());
-    EXPECT_TRUE(m.Compilado);
-    EXPECT_FALSE(m.Modificado) << "the compiled file counts as a save";
+    EXPECT_EQ(sesion().modelo.Aplicacion, VersionPrograma());
     const auto lineas = LineasPlanas(Contenido(ruta));
     EXPECT_EQ(lineas.at(1), "MOD_APL = " + VersionPrograma());
     EXPECT_EQ(lineas.at(9), "MOD_FCP = " + ruta) << "the file names itself";
     EXPECT_NE(Contenido(ruta).substr(0, 5), "*****");
 }
-
-TEST_F(Compilado, AnExistingCompiledFileIsOfferedByFolderAndBaseName) {
-    const std::string anterior = Ruta("modelos/previo.vdc");
-    Escribir(anterior, "x");
-    sesion().modelo.ArchivoCompilado = anterior;
-    dialogos.Elegir(kTitulo, anterior);
-    mensajes.Esperar(kCorrecta, Aviso(anterior));
-    ASSERT_TRUE(EscribirCompilado(sesion()));
-    EXPECT_EQ(dialogos.Peticiones().at(0).directorioInicial, Ruta("modelos"));
-    EXPECT_EQ(dialogos.Peticiones().at(0).nombreArchivo, Ruta("modelos/previo"));
-}
-
-TEST_F(Compilado, AMissingCompiledFileFallsBackToTheModelsOwnPath) {
-    const std::string modelo = Ruta("modelos/m.vdm");
-    Escribir(modelo, "x");
-    sesion().modelo.Archivo = modelo;
-    sesion().modelo.ArchivoCompilado = Ruta("ya-no-esta.vdc");
-    dialogos.Cancelar(kTitulo);
-    EXPECT_FALSE(EscribirCompilado(sesion()));
-    EXPECT_EQ(dialogos.Peticiones().at(0).nombreArchivo, Ruta("modelos/m"));
-    EXPECT_EQ(sesion().modelo.ArchivoCompilado, modelo)
-        << "a cancel leaves what the first step set";
-    EXPECT_FALSE(sesion().modelo.Compilado);
-    EXPECT_TRUE(sesion().modelo.Modificado);
-}
-
-TEST_F(Compilado, AFileThatCannotBeWrittenIsNotReportedAsCreated) {
-    const std::string ruta = Ruta("no-existe/d.vdc");
-    dialogos.Elegir(kTitulo, ruta);
-    mensajes.Esperar("VADRO: Error ",
-                     "Error 76 al guardar el modelo.\n\rNo se encontró la ruta de acceso");
-    EXPECT_FALSE(EscribirCompilado(sesion()));
-    EXPECT_FALSE(sesion().modelo.Compilado);
-    EXPECT_TRUE(sesion().modelo.Modificado);
-}
-
 } // namespace
 } // namespace vadro

@@ -1,11 +1,12 @@
 #include "core/functions/editor_funcion.h"
-#include "soporte/datos.h"
+#include "soporte/acta.h"
 #include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
 
-#include <deque>
+#include <iomanip>
+#include <sstream>
 
 namespace vadro {
 namespace {
@@ -55,120 +56,60 @@ protected:
 };
 
 const char* const kCampos[] = {"Min", "Max", "MinRef", "MaxRef", "Unidades", "C", "K", "P"};
-const char* const kRespuestas[] = {"Aceptar", "Cancelar", "Sí", "No", "Reintentar"};
-
-// The message boxes shown while it lives, one line each ("[title] text => answer", line
-// breaks written "\n"), answered in turn by `respuestas` and then by their first button. Tables
-// whose rows end mostly in messages keep them, after each row's outcome, in a data file.
-class Acta {
-public:
-    Acta() : anterior_(InstalarMensajes([this](const Mensaje& m) { return Anotar(m); })) {}
-    ~Acta() { InstalarMensajes(std::move(anterior_)); }
-    Acta(const Acta&) = delete;
-    Acta& operator=(const Acta&) = delete;
-
-    // One row: what was done, what came of it, then the messages it showed.
-    void Fila(const std::string& entrada, const std::string& salida) {
-        texto += entrada + " -> " + salida + "\n" + pendientes_;
-        pendientes_.clear();
-    }
-    void Comparar(const std::string& datos) const {
-        EXPECT_EQ(texto, pruebas::Datos("editor_funcion/" + datos, texto));
-    }
-
-    std::deque<Respuesta> respuestas;
-    std::string texto;
-
-private:
-    Respuesta Anotar(const Mensaje& mensaje) {
-        Respuesta respuesta = PrimerBoton(mensaje.botones);
-        if (!respuestas.empty()) {
-            respuesta = respuestas.front();
-            respuestas.pop_front();
-        }
-        std::string linea = "    [" + mensaje.titulo + "] " + mensaje.texto + " => " +
-                            kRespuestas[static_cast<int>(respuesta)];
-        for (std::size_t k = 0; (k = linea.find('\n', k)) != std::string::npos;) {
-            linea.replace(k, 1, "\\n");
-        }
-        pendientes_ += linea + "\n";
-        return respuesta;
-    }
-
-    std::string pendientes_;
-    FuncionMensajes anterior_;
-};
+using pruebas::Acta;
 
 std::string Nombre(Campo campo) {
     return kCampos[static_cast<int>(campo)];
 }
 
+// A figure to twelve significant digits, enough to tell any plausible slip.
+std::string Formato(double valor) {
+    std::ostringstream texto;
+    texto << std::setprecision(12) << valor;
+    return texto.str();
+}
+
 TEST_F(Editor, TheBoundsAndStepOfCFollowTheReferenceLimits) {
-    struct Caso {
-        const char* minRef;
-        const char* maxRef;
-        const char* C;
-        double inferior;
-        double superior;
-        double paso;
-        const char* leyenda;
-        const char* CDespues;
-    };
-    const Caso casos[] = {
-        {"", "", "50", 0, 100, 1, "Pto. inflexión en abcisa (0 < C < 100)", "50"},
-        {"", "7", "150", 0, 100, 1, "Pto. inflexión en abcisa (0 < C < 100)", "100"},
-        {"0", "0.5", "0.25", 0, 0.5, 0.01, "Pto. inflexión en abcisa (0 < C < 0.5)", "0.25"},
-        {"0", "0.5", "3", 0, 0.5, 0.01, "Pto. inflexión en abcisa (0 < C < 0.5)", "0.5"},
-        {"20", "100", "10", 20, 100, 0.8, "Pto. inflexión en abcisa (20 < C < 100)", "20"},
-        {"100", "0", "150", 0, 100, 1, "Pto. inflexión en abcisa (0 < C < 100)", "100"},
-        {"100", "0", "-5", 0, 100, 1, "Pto. inflexión en abcisa (0 < C < 100)", "0"},
-        {"5", "5", "9", 5, 5, 0.01, "Pto. inflexión en abcisa (5 < C < 5)", "5"},
-        {"20", "100", "", 20, 100, 0.8, "Pto. inflexión en abcisa (20 < C < 100)", ""},
+    const std::array<const char*, 3> casos[] = {
+        {"", "", "50"},     {"", "7", "150"},    {"0", "0.5", "0.25"},
+        {"0", "0.5", "3"},  {"20", "100", "10"}, {"100", "0", "150"},
+        {"100", "0", "-5"}, {"5", "5", "9"},     {"20", "100", ""},
     };
     sesion().MostrarAvisoFuncionValor = false;
-    for (const Caso& caso : casos) {
-        Limites("", "", caso.minRef, caso.maxRef);
-        editor.Texto(Campo::C) = caso.C;
+    Acta acta;
+    for (const auto& [minRef, maxRef, C] : casos) {
+        Limites("", "", minRef, maxRef);
+        editor.Texto(Campo::C) = C;
         editor.ActualizarLimites();
-        const std::string donde = std::string(caso.minRef) + "|" + caso.maxRef + "|" + caso.C;
-        EXPECT_EQ(editor.CInferior, caso.inferior) << donde;
-        EXPECT_EQ(editor.CSuperior, caso.superior) << donde;
-        EXPECT_DOUBLE_EQ(editor.PasoC, caso.paso) << donde;
-        EXPECT_EQ(editor.lblLimitesC, caso.leyenda) << donde;
-        EXPECT_EQ(editor.Texto(Campo::C), caso.CDespues) << donde;
+        acta.Fila(std::string("references '") + minRef + "' '" + maxRef + "', C '" + C + "'",
+                  Formato(editor.CInferior) + " < C < " + Formato(editor.CSuperior) + " step " +
+                      Formato(editor.PasoC) + ", '" + editor.lblLimitesC + "', C '" +
+                      editor.Texto(Campo::C) + "'");
     }
-    EXPECT_EQ(editor.lblLimitesK, "Pto. inflexión en ordenada (0 < K < 1)");
-    EXPECT_EQ(editor.lblLimitesP, "Factor de forma (0 < P < infinito)");
+    acta.Fila("K and P", editor.lblLimitesK + " | " + editor.lblLimitesP);
+    acta.Comparar("editor_funcion/limites_c.txt");
 }
 
 TEST_F(Editor, TheShapeParametersTakeOnlyNumbersWithinTheirBounds) {
     sesion().MostrarAvisoFuncionValor = false;
     Limites("", "", "0", "10");
     editor.ActualizarLimites();
-    struct Caso {
-        Campo campo;
-        const char* texto;
-        bool mensaje;
-        const char* queda;
+    const std::pair<Campo, const char*> casos[] = {
+        {Campo::K, "0.5"}, {Campo::K, "0.5x"}, {Campo::K, ""},    {Campo::K, "3"},
+        {Campo::K, "-1"},  {Campo::C, "11"},   {Campo::C, "abc"}, {Campo::P, "250"},
+        {Campo::P, "-2"},  {Campo::P, "1,5"},
     };
-    const Caso casos[] = {
-        {Campo::K, "0.5", false, "0.5"},  {Campo::K, "0.5x", true, "0.50"},
-        {Campo::K, "", true, "0.50"},     {Campo::K, "3", false, "1"},
-        {Campo::K, "-1", false, "0"},     {Campo::C, "11", false, "10"},
-        {Campo::C, "abc", true, "10.00"}, {Campo::P, "250", false, "250"},
-        {Campo::P, "-2", false, "0"},     {Campo::P, "1,5", false, "1,5"},
-    };
-    for (const Caso& caso : casos) {
-        if (caso.mensaje) {
-            mensajes.Esperar(kTituloError, "Debe introducir un número.");
-        }
+    Acta acta;
+    for (const auto& [campo, texto] : casos) {
         sesion().modelo.Modificado = false;
         const int dibujos = editor.Dibujos;
-        editor.Cambio(caso.campo, caso.texto);
-        EXPECT_EQ(editor.Texto(caso.campo), caso.queda) << caso.texto;
-        EXPECT_EQ(sesion().modelo.Modificado, !caso.mensaje) << caso.texto;
-        EXPECT_EQ(editor.Dibujos - dibujos, caso.mensaje ? 0 : 1) << caso.texto;
+        editor.Cambio(campo, texto);
+        acta.Fila(Nombre(campo) + " '" + texto + "'",
+                  "'" + editor.Texto(campo) + "'" +
+                      (sesion().modelo.Modificado ? ", modified" : "") + ", " +
+                      std::to_string(editor.Dibujos - dibujos) + " drawn");
     }
+    acta.Comparar("editor_funcion/parametros.txt");
     EXPECT_EQ(editor.Tipo, kTipoContinua) << "the first change chose the kind";
     EXPECT_EQ(editor.UltimoP, 1.5);
     editor.Texto(Campo::K) = "0.001";
@@ -208,37 +149,30 @@ TEST_F(Editor, UpDownStepsStopAtTheBoundsExceptAboveP) {
 
 TEST_F(Editor, AShapeButtonActsOnlyOnAUserClickAndDrawsOnce) {
     sesion().MostrarAvisoFuncionValor = false;
-    struct Caso {
-        int indice;
-        const char* minRef;
-        const char* maxRef;
-        const char* P;
-        const char* C;
-        const char* K;
+    const std::tuple<int, const char*, const char*> casos[] = {
+        {0, "0", "100"}, {1, "0", "100"}, {2, "0", "100"},
+        {3, "20", "60"}, {2, "100", "0"}, {1, "", ""},
     };
-    const Caso casos[] = {
-        {0, "0", "100", "1", "10", "0.01"}, {1, "0", "100", "0.5", "10", "0.5"},
-        {2, "0", "100", "5", "80", "0.3"},  {3, "20", "60", "3", "40", "0.5"},
-        {2, "100", "0", "5", "20", "0.3"},  {1, "", "", "0.5", "10", "0.5"},
-    };
-    for (const Caso& caso : casos) {
+    Acta acta;
+    for (const auto& [indice, minRef, maxRef] : casos) {
         EditorFuncion e;
-        e.Texto(Campo::MinRef) = caso.minRef;
-        e.Texto(Campo::MaxRef) = caso.maxRef;
+        e.Texto(Campo::MinRef) = minRef;
+        e.Texto(Campo::MaxRef) = maxRef;
         e.ActualizarLimites();
         const int dibujos = e.Dibujos;
-        e.ClickForma(caso.indice);
+        e.ClickForma(indice);
         EXPECT_EQ(e.Dibujos, dibujos) << "a click the user did not make";
-        e.PulsarForma(caso.indice);
-        e.ClickForma(caso.indice);
-        EXPECT_EQ(e.Dibujos, dibujos + 1) << caso.indice;
-        EXPECT_EQ(e.EtiquetaForma[static_cast<std::size_t>(caso.indice)], "Auto");
+        e.PulsarForma(indice);
+        e.ClickForma(indice);
+        EXPECT_EQ(e.Dibujos, dibujos + 1) << indice;
         EXPECT_EQ(e.Tipo, kTipoContinua);
-        EXPECT_EQ(e.Texto(Campo::P), caso.P) << caso.indice;
-        EXPECT_EQ(e.Texto(Campo::C), caso.C) << caso.indice;
-        EXPECT_EQ(e.Texto(Campo::K), caso.K) << caso.indice;
         EXPECT_EQ(e.EtiquetaParametro, (std::array<std::string, 3>{})) << "tags cleared";
+        acta.Fila("shape " + std::to_string(indice) + ", references '" + minRef + "' '" + maxRef +
+                      "'",
+                  "P " + e.Texto(Campo::P) + " C " + e.Texto(Campo::C) + " K " + e.Texto(Campo::K) +
+                      ", tag '" + e.EtiquetaForma[static_cast<std::size_t>(indice)] + "'");
     }
+    acta.Comparar("editor_funcion/formas.txt");
 }
 
 // Decreasing references ask about the minimum with the word of the maximum; a lower limit
@@ -275,7 +209,7 @@ TEST_F(Editor, TheReferenceLimitsAskAboutTheValidityLimitsWithTheirOwnWords) {
                       "', references '" + caso.minRef + "' '" + caso.maxRef + "'",
                   "'" + editor.Texto(caso.campo) + "'");
     }
-    acta.Comparar("limites_referencia.txt");
+    acta.Comparar("editor_funcion/limites_referencia.txt");
     Limites("", "", "", "");
     editor.Salir(Campo::MaxRef);
     EXPECT_TRUE(editor.chkMaxRefUsuario) << "an empty limit is left to the user";
@@ -318,7 +252,7 @@ TEST_F(Editor, LeavingAValidityLimitWarnsAboutTheReferenceLimitsItCuts) {
                       "', references '" + caso.minRef + "' '" + caso.maxRef + "'",
                   "");
     }
-    acta.Comparar("limites_validez.txt");
+    acta.Comparar("editor_funcion/limites_validez.txt");
 }
 
 // A limit is refused, and emptied, for its symbol or its number; under a step function it must
@@ -354,29 +288,22 @@ TEST_F(Editor, ErrorLimitesRefusesByEmptyingTheLimit) {
                       (caso.celda ? std::string(", outer step '") + caso.celda + "'" : ""),
                   (error ? "refused, left '" : "passes, left '") + editor.Texto(campo) + "'");
     }
-    acta.Comparar("error_limites.txt");
+    acta.Comparar("editor_funcion/error_limites.txt");
 }
 
 TEST_F(Editor, LeavingAnEmptyValidityLimitChecksTheOtherAndSendsTheFocusThere) {
     sesion().MostrarAvisoFuncionValor = false;
-    Limites(">3", "", "", "");
-    mensajes.Esperar(kTituloInferior,
-                     "El símbolo de intervalo del límite INFERIOR no puede ser abierto hacia la "
-                     "DERECHA.\n" +
-                         kCorrijalo);
-    editor.Salir(Campo::Max);
-    EXPECT_TRUE(editor.chkMaxUsuario);
-    EXPECT_EQ(editor.Texto(Campo::Min), "");
-    ASSERT_TRUE(editor.foco);
-    EXPECT_EQ(editor.foco->campo, Campo::Min);
-
-    editor.foco.reset();
-    Limites("", "100", "", "");
-    mensajes.Esperar("VADRO:error en límite superior",
-                     "Falta introducir el signo de intervalo en el límite superior (=, < o >).");
-    editor.Salir(Campo::Max);
-    ASSERT_TRUE(editor.foco);
-    EXPECT_EQ(editor.foco->campo, Campo::Max) << "back to the refused limit";
+    Acta acta;
+    for (const auto& [min, max] : {std::pair{">3", ""}, {"", "100"}}) {
+        editor.foco.reset();
+        Limites(min, max, "", "");
+        editor.Salir(Campo::Max);
+        acta.Fila(std::string("leave Max, limits '") + min + "' '" + max + "'",
+                  "Min '" + editor.Texto(Campo::Min) + "', focus on " +
+                      (editor.foco ? Nombre(editor.foco->campo) : "nothing") +
+                      (editor.chkMaxUsuario ? ", Max left to the user" : ""));
+    }
+    acta.Comparar("editor_funcion/limite_vacio.txt");
     EXPECT_TRUE(editor.Tecla(Campo::Min, 13)) << "Enter leaves the limit";
 }
 
@@ -444,7 +371,7 @@ TEST_F(Editor, ValidarIntervaloChecksACellAgainstItsNeighboursInOrder) {
                       caso.texto + "'",
                   error ? "refused" : "passes");
     }
-    acta.Comparar("validar_intervalo.txt");
+    acta.Comparar("editor_funcion/validar_intervalo.txt");
     // A start is checked only when its own end is filled.
     Escalones({{"1", "=0", "<10", "0"}, {"2", "", "", ""}});
     editor.FilaActual = 2;
@@ -455,26 +382,19 @@ TEST_F(Editor, ValidarIntervaloChecksACellAgainstItsNeighboursInOrder) {
 TEST_F(Editor, LeavingACellCommitsAGoodTextAndKeepsTheOldOneOtherwise) {
     sesion().MostrarAvisoFuncionValor = false;
     Escalones({{"1", "=0", "<10", "0"}, {"2", "", "", ""}, {"3", "", "", ""}});
-    EscribirCelda(2, 1, "=10");
-    EXPECT_EQ(editor.Filas[1][1], "=10");
-    EscribirCelda(2, 3, "-0");
-    EXPECT_EQ(editor.Filas[1][3], "0") << "its absolute value, in plain form";
-    mensajes.Esperar(kTituloError, "Debe introducir un valor numérico.");
-    EscribirCelda(2, 3, "medio");
-    EXPECT_EQ(editor.Filas[1][3], "0");
-    mensajes.Esperar(kTituloError,
-                     "El valor de la función R(x) debe de estar comprendido entre 0 y 1.");
-    EscribirCelda(2, 3, "2");
-    mensajes.Esperar(kTituloFuncion, "El valor final del último intervalo tiene que ser 0 o 1.");
-    EscribirCelda(3, 3, "0.5");
-    EXPECT_EQ(editor.Filas[2][3], "");
-    EscribirCelda(2, 3, "");
-    EXPECT_EQ(editor.Filas[1][3], "") << "a cell may be emptied";
-    mensajes.Esperar(kTituloFuncion, "Falta introducir el signo de intervalo (=, < o >).");
-    mensajes.Esperar(kTituloFuncion, "Se mantendrá el valor existente anteriormente.");
-    EscribirCelda(2, 2, "20");
-    EXPECT_EQ(editor.Filas[1][2], "");
-    EXPECT_FALSE(editor.EntradaAbierta);
+    const std::tuple<int, int, const char*> pasos[] = {
+        {2, 1, "=10"}, {2, 3, "-0"}, {2, 3, "medio"}, {2, 3, "2"},
+        {3, 3, "0.5"}, {2, 3, ""},   {2, 2, "20"},
+    };
+    Acta acta;
+    for (const auto& [fila, columna, texto] : pasos) {
+        EscribirCelda(fila, columna, texto);
+        acta.Fila("cell " + std::to_string(fila) + "," + std::to_string(columna) + " '" + texto +
+                      "'",
+                  "'" + editor.Filas[static_cast<std::size_t>(fila - 1)][columna] + "'" +
+                      (editor.EntradaAbierta ? ", input open" : ""));
+    }
+    acta.Comparar("editor_funcion/salir_celda.txt");
     const int dibujos = editor.Dibujos;
     editor.SalirCelda("=5");
     EXPECT_EQ(editor.Dibujos, dibujos) << "no input open: nothing happens";
@@ -483,82 +403,54 @@ TEST_F(Editor, LeavingACellCommitsAGoodTextAndKeepsTheOldOneOtherwise) {
 TEST_F(Editor, TheKeysOfTheFloatingInputValidateCommitAndMove) {
     sesion().MostrarAvisoFuncionValor = false;
     Escalones({{"1", "=0", "<10", "0"}, {"2", "=10", "=20", "1"}});
-    struct Caso {
-        int fila;
-        int columna;
-        int tecla;
-        const char* texto;
-        AccionEntrada accion;
-        int filaDespues;
-        int columnaDespues;
+    const char* const acciones[] = {"nothing", "committed", "discarded", "moved", "kept open"};
+    const std::tuple<int, int, int, const char*> casos[] = {
+        {1, 1, 37, "=0"},  {1, 2, 37, "<10"}, {1, 3, 39, "0"},   {1, 1, 39, "=0"},
+        {1, 1, 38, "=0"},  {1, 1, 40, "=0"},  {2, 1, 40, "=10"}, {1, 3, 40, "0.5"},
+        {2, 2, 13, "=20"}, {2, 2, 27, "=25"}, {2, 2, 65, "=25"},
     };
-    const Caso casos[] = {
-        {1, 1, 37, "=0", AccionEntrada::Movida, 1, 1}, // left at column 1 stays
-        {1, 2, 37, "<10", AccionEntrada::Movida, 1, 1},
-        {1, 3, 39, "0", AccionEntrada::Movida, 1, 3},
-        {1, 1, 39, "=0", AccionEntrada::Movida, 1, 2},
-        {1, 1, 38, "=0", AccionEntrada::Movida, 1, 1},
-        {1, 1, 40, "=0", AccionEntrada::Movida, 2, 1},
-        {2, 1, 40, "=10", AccionEntrada::Movida, 2, 1},
-        {1, 3, 40, "0.5", AccionEntrada::Retenida, 1, 3},
-        {2, 2, 13, "=20", AccionEntrada::Confirmada, 2, 2},
-        {2, 2, 27, "=25", AccionEntrada::Descartada, 2, 2},
-        {2, 2, 65, "=25", AccionEntrada::Ninguna, 2, 2},
-    };
-    for (const Caso& caso : casos) {
-        editor.FilaActual = caso.fila;
-        editor.ColumnaActual = caso.columna;
+    Acta acta;
+    for (const auto& [fila, columna, tecla, texto] : casos) {
+        editor.FilaActual = fila;
+        editor.ColumnaActual = columna;
         ASSERT_TRUE(editor.AbrirCelda());
-        if (caso.accion == AccionEntrada::Retenida) {
-            mensajes.Esperar(kTituloFuncion,
-                             "El valor inicial del primer intervalo tiene que ser 0 o 1.");
-        }
-        EXPECT_EQ(editor.TeclaEntrada(caso.tecla, caso.texto), caso.accion) << caso.tecla;
-        EXPECT_EQ(editor.FilaActual, caso.filaDespues) << caso.tecla;
-        EXPECT_EQ(editor.ColumnaActual, caso.columnaDespues) << caso.tecla;
-        const bool abierta =
-            caso.accion == AccionEntrada::Retenida || caso.accion == AccionEntrada::Ninguna;
-        EXPECT_EQ(editor.EntradaAbierta, abierta) << caso.tecla;
+        const AccionEntrada accion = editor.TeclaEntrada(tecla, texto);
+        acta.Fila("key " + std::to_string(tecla) + " at " + std::to_string(fila) + "," +
+                      std::to_string(columna) + " on '" + texto + "'",
+                  std::string(acciones[static_cast<int>(accion)]) + ", now at " +
+                      std::to_string(editor.FilaActual) + "," +
+                      std::to_string(editor.ColumnaActual) +
+                      (editor.EntradaAbierta ? ", input open" : ""));
         editor.EntradaAbierta = false;
     }
+    acta.Comparar("editor_funcion/teclas_entrada.txt");
     EXPECT_EQ(editor.Filas[1][2], "=20") << "Escape kept the cell";
 }
 
 TEST_F(Editor, ErrorMinMaxWantsAZeroAndAOneSomewhere) {
-    struct Caso {
-        std::vector<const char*> valores;
-        bool error;
+    const std::vector<const char*> casos[] = {
+        {"0", "0.5", "1"}, {"1", "0", "1"}, {"1", "0.5", "1"}, {"0"}, {"1"}, {"0", "", "1"}, {},
     };
-    const Caso casos[] = {
-        {{"0", "0.5", "1"}, false},
-        {{"1", "0", "1"}, false},
-        {{"1", "0.5", "1"}, true},
-        {{"0"}, true},
-        {{"1"}, true},
-        {{"0", "", "1"}, false},
-        {{}, true},
-    };
-    for (const Caso& caso : casos) {
+    Acta acta;
+    for (const auto& valores : casos) {
         std::vector<FilaIntervalo> filas;
-        for (const char* valor : caso.valores) {
+        std::string listado;
+        for (const char* valor : valores) {
             filas.push_back({"", "", "", valor});
+            listado += std::string(" '") + valor + "'";
         }
         Escalones(filas);
-        if (caso.valores.empty()) {
+        if (valores.empty()) {
             editor.CambiarIntervalos(0);
         }
         editor.FilaActual = 2;
         editor.ColumnaActual = 1;
-        if (caso.error) {
-            mensajes.Esperar("VADRO: error",
-                             "La función escalón debe de tener al menos un mínimo en 0 y un "
-                             "máximo en 1");
-        }
-        EXPECT_EQ(editor.ErrorMinMax(), caso.error) << caso.valores.size();
-        if (caso.error) {
-            EXPECT_EQ(std::pair(editor.FilaActual, editor.ColumnaActual), std::pair(1, 3));
-        }
+        const bool error = editor.ErrorMinMax();
+        acta.Fila("values" + listado, (error ? "refused" : "passes") + std::string(", cell ") +
+                                          std::to_string(editor.FilaActual) + "," +
+                                          std::to_string(editor.ColumnaActual));
     }
+    acta.Comparar("editor_funcion/min_max.txt");
     editor.EntradaAbierta = true;
     EXPECT_FALSE(editor.ErrorMinMax()) << "not while a cell is open";
     editor.EntradaAbierta = false;
@@ -567,12 +459,11 @@ TEST_F(Editor, ErrorMinMaxWantsAZeroAndAOneSomewhere) {
 }
 
 TEST_F(Editor, TheReferenceLabelsListTheStepsWorthZeroAndOne) {
-    const std::pair<std::pair<const char*, const char*>, const char*> formatos[] = {
-        {{"=10", "<20"}, "[10,20)"}, {{">0", "=5"}, "(0,5]"}, {{"", "=5"}, "(?,5]"},
-        {{"<3", ""}, "(3,?)"},       {{"", ""}, "(?,?)"},
-    };
-    for (const auto& [extremos, texto] : formatos) {
-        EXPECT_EQ(FormatoIntervalo(extremos.first, extremos.second), texto);
+    const std::pair<const char*, const char*> extremos[] = {
+        {"=10", "<20"}, {">0", "=5"}, {"", "=5"}, {"<3", ""}, {"", ""}};
+    Acta acta;
+    for (const auto& [inicio, fin] : extremos) {
+        acta.Fila(std::string("'") + inicio + "' '" + fin + "'", FormatoIntervalo(inicio, fin));
     }
     Escalones({{"1", "=0", "<10", "0"},
                {"2", "=10", "<20", "0.5"},
@@ -580,16 +471,12 @@ TEST_F(Editor, TheReferenceLabelsListTheStepsWorthZeroAndOne) {
                {"4", ">30", "<40", ""},
                {"5", "=40", "=50", "0"}});
     editor.ActualizarEtiquetasRef();
-    EXPECT_EQ(editor.lblMinRef, "[0,10)[40,50]");
-    EXPECT_EQ(editor.lblMaxRef, "[20,30]");
-    mensajes.Esperar(kTituloFuncion, "Los puntos de mínima satisfacción vienen impuestos por "
-                                     "los valores introducidos en la definición de los "
-                                     "escalones.");
+    acta.Fila("labels", "'" + editor.lblMinRef + "' '" + editor.lblMaxRef + "'");
     editor.ClickEtiquetaRef(false);
-    mensajes.Esperar(kTituloFuncion, "Los puntos de máxima satisfacción vienen impuestos por "
-                                     "los valores introducidos en la definición de los "
-                                     "escalones.");
+    acta.Fila("click the minimum's", "");
     editor.ClickEtiquetaRef(true);
+    acta.Fila("click the maximum's", "");
+    acta.Comparar("editor_funcion/etiquetas_ref.txt");
 }
 
 TEST_F(Editor, TheCountOfIntervalsGrowsFreelyAndShrinksOnlyWhenConfirmed) {
@@ -624,44 +511,47 @@ TEST_F(Editor, TheCountOfIntervalsGrowsFreelyAndShrinksOnlyWhenConfirmed) {
 }
 
 TEST_F(Editor, TheKindListAndTheTabsShowTheirPanels) {
-    using P = Paneles;
-    struct Caso {
-        int pestanaAntes;
-        int tipo;
-        int pestanaClick; // 0: no click on the tabs afterwards
-        P paneles;
-        int pestana;
-    };
-    const Caso casos[] = {
-        {1, kTipoContinua, 0, P{true, true, false, false, false, false, true}, 1},
-        {2, kTipoContinua, 0, P{true, true, false, false, false, false, true}, 1},
-        {2, kTipoEscalon, 0, P{true, false, true, false, false, false, false}, 1},
-        {1, kTipoPuntuacion, 0, P{true, true, false, false, false, false, true}, 1},
-        {2, kTipoPuntuacion, 0, P{false, true, false, true, false, false, true}, 2},
-        {1, kTipoPuntuacion, 2, P{false, true, false, true, false, false, true}, 2},
-        {1, kTipoContinua, 2, P{false, true, false, false, false, true, true}, 2},
-        {1, kTipoEscalon, 2, P{false, false, true, false, false, true, false}, 2},
-        {2, kTipoPuntuacion, 1, P{true, true, false, false, false, false, true}, 1},
-    };
-    for (const Caso& caso : casos) {
-        EditorFuncion e;
-        e.Pestana = caso.pestanaAntes;
-        e.ClickTipo(caso.tipo);
-        if (caso.pestanaClick != 0) {
-            e.ClickPestana(caso.pestanaClick);
+    const auto paneles = [](const EditorFuncion& e) {
+        const Paneles& p = e.paneles;
+        std::string texto;
+        for (const auto& [visible, nombre] : {std::pair{p.FondoGrafica, "FondoGrafica"},
+                                              {p.Continua, "Continua"},
+                                              {p.Escalon, "Escalon"},
+                                              {p.Tablas, "Tablas"},
+                                              {p.Optativos, "Optativos"},
+                                              {p.Error, "Error"},
+                                              {p.Referencias, "Referencias"}}) {
+            texto += visible ? std::string(" ") + nombre : "";
         }
-        EXPECT_EQ(e.paneles, caso.paneles) << caso.tipo << " " << caso.pestanaClick;
-        EXPECT_EQ(e.Pestana, caso.pestana);
+        return "tab " + std::to_string(e.Pestana) + ":" + texto;
+    };
+    // The tab before, the kind chosen, the tab clicked afterwards (0: none).
+    const std::array<int, 3> casos[] = {
+        {1, kTipoContinua, 0},   {2, kTipoContinua, 0},   {2, kTipoEscalon, 0},
+        {1, kTipoPuntuacion, 0}, {2, kTipoPuntuacion, 0}, {1, kTipoPuntuacion, 2},
+        {1, kTipoContinua, 2},   {1, kTipoEscalon, 2},    {2, kTipoPuntuacion, 1},
+    };
+    Acta acta;
+    for (const auto& [antes, tipo, pestana] : casos) {
+        EditorFuncion e;
+        e.Pestana = antes;
+        e.ClickTipo(tipo);
+        if (pestana != 0) {
+            e.ClickPestana(pestana);
+        }
+        acta.Fila("tab " + std::to_string(antes) + ", kind " + std::to_string(tipo) +
+                      ", click on tab " + std::to_string(pestana),
+                  paneles(e));
     }
     EditorFuncion e;
     e.ClickTipo(kTipoEscalon);
     e.ClickOptativos(true);
-    EXPECT_FALSE(e.TipoHabilitado);
-    EXPECT_FALSE(e.PlantillasHabilitadas);
-    EXPECT_TRUE(e.paneles.Optativos);
-    EXPECT_FALSE(e.paneles.FondoGrafica);
+    acta.Fila("steps, then the optional indicators",
+              paneles(e) + (e.TipoHabilitado ? ", kind list on" : "") +
+                  (e.PlantillasHabilitadas ? ", templates on" : ""));
     e.ClickOptativos(false);
-    EXPECT_EQ(e.paneles, (P{true, false, true, false, false, false, false})) << "the kind again";
+    acta.Fila("the optional indicators off", paneles(e));
+    acta.Comparar("editor_funcion/paneles.txt");
 }
 
 TEST_F(Editor, ReadingAndWritingKeepEveryKindOfRecord) {
@@ -700,11 +590,9 @@ TEST_F(Editor, AcceptingWritesTheRecordAndCancellingRestoresTheFlag) {
     EXPECT_EQ(registro.K, ValorLibre(0.5));
     e.Cancelar();
     EXPECT_FALSE(sesion().modelo.Modificado);
-    mensajes.Esperar("VADRO",
-                     "Se perderán los últimos valores introducidos. Está seguro que quiere "
-                     "cerrar la ventana?",
-                     Respuesta::No);
-    EXPECT_FALSE(e.PuedeCerrar());
+    Acta acta;
+    acta.respuestas = {Respuesta::No, Respuesta::Cancelar, Respuesta::Aceptar};
+    acta.Fila("close", e.PuedeCerrar() ? "closes" : "stays");
     EXPECT_FALSE(sesion().modelo.Modificado) << "the cancel's restoring stands";
     ASSERT_TRUE(e.Aceptar());
     EXPECT_EQ(registro.K, ValorLibre(0.75));
@@ -715,15 +603,13 @@ TEST_F(Editor, AcceptingWritesTheRecordAndCancellingRestoresTheFlag) {
     vacia.Puntuaciones.Borrar();
     EditorFuncion p;
     p.Cargar(vacia);
-    const std::string pregunta =
-        "La función definida como función de puntuación, no tiene elementos numéricos ni "
-        "booleanos. Se guardará cómo función contínua.";
-    mensajes.Esperar("VADRO: error", pregunta, Respuesta::Cancelar);
-    EXPECT_FALSE(p.Aceptar());
-    EXPECT_EQ(p.Tipo, kTipoPuntuacion);
-    mensajes.Esperar("VADRO: error", pregunta, Respuesta::Aceptar);
-    EXPECT_TRUE(p.Aceptar());
-    EXPECT_EQ(vacia.Tipo, FuncionContinua);
+    for (int vez = 0; vez < 2; ++vez) {
+        const bool aceptada = p.Aceptar();
+        acta.Fila("accept an empty scoring function", std::string(aceptada ? "written" : "kept") +
+                                                          ", kind " + std::to_string(p.Tipo) +
+                                                          ", record " + std::to_string(vacia.Tipo));
+    }
+    acta.Comparar("editor_funcion/aceptar.txt");
 }
 
 TEST_F(Editor, ActivationReportsALimitThatNoLongerFits) {
@@ -732,14 +618,13 @@ TEST_F(Editor, ActivationReportsALimitThatNoLongerFits) {
     registro.XMax = ">80";
     EditorFuncion e;
     e.Cargar(registro);
-    mensajes.Esperar(kTituloSuperior, "El valor del límite superior debe ser igual al valor "
-                                      "final del último intervalo.\n" +
-                                          kCorrijalo);
+    Acta acta;
     e.Activar();
-    EXPECT_EQ(e.Texto(Campo::Max), "");
-    ASSERT_TRUE(e.foco);
-    EXPECT_EQ(e.foco->campo, Campo::Max);
-    EXPECT_FALSE(e.Activando);
+    acta.Fila("activate with the upper limit '>80'",
+              "'" + e.Texto(Campo::Max) + "', focus on " +
+                  (e.foco ? Nombre(e.foco->campo) : "nothing") +
+                  (e.Activando ? ", still activating" : ""));
+    acta.Comparar("editor_funcion/activar.txt");
 }
 
 TEST_F(Editor, TheSecondInstanceWritesAnOptionalIndicatorsFunction) {

@@ -5,6 +5,7 @@
 #include "core/core/version.h"
 #include "core/files/modelo_archivo.h"
 #include "core/shell/comandos_modelo.h"
+#include "soporte/acta.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
@@ -42,7 +43,6 @@ protected:
     }
 
     const std::string titulo = "Abrir modelo";
-    const std::string tituloFallo = "VADRO PROGRAMADOR: abrir modelo";
     const std::string pregunta = "Desea guardar los cambios realizados en el modelo actual?";
 };
 
@@ -88,26 +88,23 @@ TEST_F(Apertura, ACompiledFileOrAnEmptyOneOpensLikeAModel) {
 
 TEST_F(Apertura, ALaterOpeningAsksWhateverTheChanges) {
     sesion().ModeloAbiertoAntes = true;
-    struct Caso {
-        Respuesta respuesta;
-        bool guarda;
-        bool dialogo;
-    };
-    for (const Caso& c : {Caso{Respuesta::Cancelar, false, false}, Caso{Respuesta::No, false, true},
-                          Caso{Respuesta::Si, true, true}}) {
+    pruebas::Acta acta;
+    for (const Respuesta respuesta : {Respuesta::Cancelar, Respuesta::No, Respuesta::Si}) {
         BorrarArchivo(Ruta("actual.vdm"));
         modelo().Nombre = "actual";
         modelo().Archivo = Ruta("actual.vdm");
         pruebas::GuionDialogos dialogos;
-        if (c.dialogo) {
+        if (respuesta != Respuesta::Cancelar) {
             dialogos.Cancelar(titulo);
         }
-        mensajes.Esperar("VADRO PROGRAMADOR", pregunta, c.respuesta);
-        EXPECT_FALSE(AbrirModelo(sesion()));
-        EXPECT_EQ(ExisteArchivo(Ruta("actual.vdm")), c.guarda);
+        acta.respuestas = {respuesta};
+        const bool abierto = AbrirModelo(sesion());
         // Cancel at the question changes nothing; a cancelled dialog leaves the blank model.
-        EXPECT_EQ(modelo().Nombre, c.dialogo ? "" : "actual");
+        acta.Fila("open, the dialog cancelled",
+                  std::string(abierto ? "opened" : "not opened") + ", model '" + modelo().Nombre +
+                      "'" + (ExisteArchivo(Ruta("actual.vdm")) ? ", the old one saved" : ""));
     }
+    acta.Comparar("comandos/abrir_pregunta.txt");
 }
 
 TEST_F(Apertura, ASaveThatFailsAtTheQuestionKeepsTheModel) {
@@ -133,32 +130,20 @@ TEST_F(Apertura, BadFilesAreToldAndLeaveTheBlankModelWithNoFile) {
     Escribir(Ruta("foto.vdm"), std::string("\x89PNG\r\n\x1a\nIHDR\0\0\0\x10", 16));
     Escribir(Ruta("notas.vdm"), "Lista de la compra\r\npan = 2\r\n");
     Escribir(Ruta("roto.vdm"), "*****MODELO*****\r\nREQ_NUMR = tres\r\n");
-    struct Caso {
-        std::string ruta;
-        std::string texto;
-    };
-    const Caso casos[] = {
-        {Ruta("foto.vdm"),
-         "Error 321 al abrir el modelo: El archivo no contiene un modelo de VADRO."},
-        {Ruta("notas.vdm"),
-         "Error 321 al abrir el modelo: El archivo no contiene un modelo de VADRO."},
-        {Ruta("roto.vdm"), "Error 13 al abrir el modelo: " + DescripcionError(ErrTipos)},
-        {Ruta("desaparecido.vdm"),
-         "Error 53 al abrir el modelo: " + DescripcionError(ErrArchivoNoEncontrado)},
-    };
-    for (const Caso& c : casos) {
-        const std::string antes = Contenido(c.ruta);
+    pruebas::Acta acta;
+    for (const char* nombre : {"foto.vdm", "notas.vdm", "roto.vdm", "desaparecido.vdm"}) {
+        const std::string ruta = Ruta(nombre);
+        const std::string antes = Contenido(ruta);
         modelo().Nombre = "anterior";
         pruebas::GuionDialogos dialogos;
-        dialogos.Elegir(titulo, c.ruta);
-        mensajes.Esperar(tituloFallo, c.texto);
-        EXPECT_FALSE(AbrirModelo(sesion())) << c.ruta;
-        EXPECT_EQ(modelo().Nombre, "");
-        EXPECT_EQ(modelo().Archivo, "") << "nothing can be saved over the file that failed";
-        EXPECT_EQ(Contenido(c.ruta), antes);
-        EXPECT_FALSE(sesion().ModeloAbiertoAntes);
+        dialogos.Elegir(titulo, ruta);
+        EXPECT_FALSE(AbrirModelo(sesion())) << ruta;
+        acta.Fila(nombre, "model '" + modelo().Nombre + "', file '" + modelo().Archivo + "'" +
+                              (sesion().ModeloAbiertoAntes ? ", opened before" : ""));
+        EXPECT_EQ(Contenido(ruta), antes);
         EXPECT_EQ(ClaveModelos(), Directorio()) << "the folder is remembered all the same";
     }
+    acta.Comparar("comandos/abrir_fallos.txt");
 }
 
 TEST_F(Apertura, WhatReadsAsAModel) {
@@ -195,14 +180,6 @@ TEST_F(Apertura, TheStepLabelsAfterAnOpening) {
 
 class Permiso : public Apertura {
 protected:
-    const std::string tituloPermitir = "VADRO PROGRAMADOR: permitir subcriterios";
-    const std::string textoPermitir =
-        "Se recomienda un máximo de tres niveles en el árbol de requerimientos.\r"
-        "Está seguro de querer usar subcriterios?";
-    const std::string tituloEliminar = "VADRO PROGRAMADOR: eliminar subcriterios";
-    const std::string textoEliminar =
-        "Existen subcriterios en el modelo actual que serán eliminados. Desea continuar?";
-
     static Modelo ConSubcriterios() {
         return pruebas::ModeloCon({Requerimiento(
             "R", {Criterio("C", {}, {Subcriterio("S", {Indicador("a"), Indicador("b")})}),
@@ -210,36 +187,38 @@ protected:
     }
 };
 
-TEST_F(Permiso, AllowingAsksAndYesAllows) {
-    mensajes.Esperar(tituloPermitir, textoPermitir, Respuesta::No);
-    EXPECT_EQ(CambiarPermisoSubcriterios(modelo(), false), CambioSubcriterios::Ninguno);
-    EXPECT_FALSE(modelo().ConSubcriterios);
-    mensajes.Esperar(tituloPermitir, textoPermitir, Respuesta::Si);
-    EXPECT_EQ(CambiarPermisoSubcriterios(modelo(), false), CambioSubcriterios::Permitidos);
-    EXPECT_TRUE(modelo().ConSubcriterios);
-}
-
-TEST_F(Permiso, WithdrawingWithSubcriteriaAsksAndYesMovesTheirIndicatorsUp) {
-    modelo() = ConSubcriterios();
-    const Modelo antes = modelo();
-    mensajes.Esperar(tituloEliminar, textoEliminar, Respuesta::No);
-    EXPECT_EQ(CambiarPermisoSubcriterios(modelo(), true), CambioSubcriterios::Ninguno);
-    EXPECT_EQ(modelo(), antes);
-
-    mensajes.Esperar(tituloEliminar, textoEliminar, Respuesta::Si);
-    EXPECT_EQ(CambiarPermisoSubcriterios(modelo(), true), CambioSubcriterios::Eliminados);
-    EXPECT_FALSE(modelo().ConSubcriterios);
-    // How the indicators come up is EliminarSubcriterios's to test.
-    const NodoCriterio& c = modelo().Requerimientos(1).Criterios(1);
-    EXPECT_EQ(std::pair(c.NumSubcriterios.Cuenta(), c.NumIndicadores.Cuenta()), std::pair(0, 2));
-}
-
-TEST_F(Permiso, WithdrawingWithoutSubcriteriaInTheModelAsksNothing) {
-    modelo() = pruebas::ModeloCorrecto();
-    modelo().ConSubcriterios = true;
-    EXPECT_EQ(CambiarPermisoSubcriterios(modelo(), true), CambioSubcriterios::Eliminados);
-    EXPECT_FALSE(modelo().ConSubcriterios);
-    EXPECT_TRUE(mensajes.Vistos().empty());
+// Allowing asks; withdrawing asks only when the model holds subcriteria, and Yes moves their
+// indicators up (how is EliminarSubcriterios's to test).
+TEST_F(Permiso, AllowingAndWithdrawingTheSubcriteria) {
+    const char* const cambios[] = {"nothing", "allowed", "withdrawn"};
+    struct Caso {
+        bool conSubcriterios, quitar;
+        Respuesta respuesta;
+    };
+    const Caso casos[] = {{false, false, Respuesta::No},
+                          {false, false, Respuesta::Si},
+                          {true, true, Respuesta::No},
+                          {true, true, Respuesta::Si},
+                          {false, true, Respuesta::Aceptar}};
+    pruebas::Acta acta;
+    for (const Caso& c : casos) {
+        modelo() = c.conSubcriterios ? ConSubcriterios() : pruebas::ModeloCorrecto();
+        modelo().ConSubcriterios = c.quitar;
+        const Modelo antes = modelo();
+        acta.respuestas = {c.respuesta};
+        const CambioSubcriterios cambio = CambiarPermisoSubcriterios(modelo(), c.quitar);
+        const NodoCriterio& criterio = modelo().Requerimientos(1).Criterios(1);
+        acta.Fila(std::string(c.quitar ? "withdraw" : "allow") +
+                      (c.conSubcriterios ? ", subcriteria in the model" : ""),
+                  std::string(cambios[static_cast<int>(cambio)]) + ", allowed " +
+                      (modelo().ConSubcriterios ? "yes" : "no") + ", first criterion " +
+                      std::to_string(criterio.NumSubcriterios.Cuenta()) + " subcriteria " +
+                      std::to_string(criterio.NumIndicadores.Cuenta()) + " indicators");
+        if (cambio == CambioSubcriterios::Ninguno) {
+            EXPECT_EQ(modelo(), antes);
+        }
+    }
+    acta.Comparar("comandos/permiso_subcriterios.txt");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "core/core/error_ejecucion.h"
 #include "core/core/version.h"
 #include "core/shell/comandos_modelo.h"
+#include "soporte/acta.h"
 #include "soporte/componentes_etapas.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/prueba_sesion.h"
@@ -22,7 +23,6 @@ protected:
         modelo().Modificado = true;
     }
 
-    const std::string preguntaCierre = "Desea guardar los cambios realizados en el modelo actual?";
     const std::string tituloGuardar = "Guardar modelo como...";
 };
 
@@ -77,32 +77,6 @@ TEST_F(ComandosModelo, InicializarModeloLeavesWhatItDoesNotName) {
     EXPECT_EQ(m.ArchivoCompilado, "/x/m.vdc");
 }
 
-TEST_F(ComandosModelo, NuevoAsksOnlyAboutAModifiedModel) {
-    EXPECT_TRUE(GuardarAntesDeNuevo(modelo()));
-    EXPECT_TRUE(mensajes.Vistos().empty());
-}
-
-TEST_F(ComandosModelo, NoAtTheQuestionOfNuevoGoesOnWithoutSaving) {
-    const std::string ruta = Ruta("m.vdm");
-    ModeloModificado(ruta);
-    mensajes.Esperar("VADRO PROGRAMADOR: Nuevo modelo", "Desea guardar el modelo activo?",
-                     Respuesta::No);
-    EXPECT_TRUE(GuardarAntesDeNuevo(modelo()));
-    EXPECT_FALSE(ExisteArchivo(ruta));
-}
-
-TEST_F(ComandosModelo, YesAtNuevoOnANeverSavedModelAsksForNoName) {
-    ModeloModificado("");
-    pruebas::GuionDialogos dialogos; // strict: a dialog would fail the test
-    mensajes.Esperar("VADRO PROGRAMADOR: Nuevo modelo", "Desea guardar el modelo activo?",
-                     Respuesta::Si);
-    // The file layer reports the empty path.
-    mensajes.Esperar("VADRO: Error ",
-                     "Error 52 al guardar el modelo.\n\r" + DescripcionError(ErrNombreArchivo));
-    EXPECT_TRUE(GuardarAntesDeNuevo(modelo()));
-    EXPECT_TRUE(modelo().Modificado) << "a failed save keeps the changes marked";
-}
-
 TEST_F(ComandosModelo, TheSaveDialogOfAModelNeverSaved) {
     const PeticionDialogo p = PeticionGuardarModelo("", Directorio(), false);
     EXPECT_EQ(p.tipo, TipoDialogo::Guardar);
@@ -133,20 +107,45 @@ TEST_F(ComandosModelo, OnlyANewOrACompiledFileNeedsAName) {
     EXPECT_FALSE(NecesitaNombre("/m/planta.vdc.vdm"));
 }
 
-TEST_F(ComandosModelo, ClosingAnUnmodifiedModelAsksNothing) {
-    modelo().Archivo = Ruta("m.vdm");
-    EXPECT_TRUE(GuardarAlCerrar(modelo(), Directorio()));
-    EXPECT_TRUE(mensajes.Vistos().empty());
-    EXPECT_FALSE(ExisteArchivo(Ruta("m.vdm")));
-}
-
-TEST_F(ComandosModelo, ACancelledNameAtClosingStillLetsTheWindowClose) {
-    ModeloModificado("");
-    pruebas::GuionDialogos dialogos;
-    dialogos.Cancelar(tituloGuardar);
-    mensajes.Esperar("VADRO PROGRAMADOR", preguntaCierre, Respuesta::Si);
-    EXPECT_TRUE(GuardarAlCerrar(modelo(), Directorio()));
-    EXPECT_TRUE(modelo().Modificado);
+// Nuevo asks "Desea guardar el modelo activo?" and never for a name; closing asks its own
+// question and goes through the save-as dialog when there is no file, whose cancel does not
+// stop the closing.
+TEST_F(ComandosModelo, TheSaveQuestionsOfNuevoAndOfClosing) {
+    struct Caso {
+        bool cerrar;
+        bool modificado;
+        const char* archivo;
+        Respuesta respuesta;
+    };
+    const Caso casos[] = {
+        {false, false, "m.vdm", Respuesta::Aceptar},
+        {false, true, "m.vdm", Respuesta::No},
+        {false, true, "", Respuesta::Si},
+        {false, true, "m.vdm", Respuesta::Si},
+        {false, true, "m.vdm", Respuesta::Cancelar},
+        {true, false, "m.vdm", Respuesta::Aceptar},
+        {true, true, "", Respuesta::Si},
+        {true, true, "m.vdm", Respuesta::Cancelar},
+    };
+    pruebas::Acta acta;
+    for (const Caso& c : casos) {
+        BorrarArchivo(Ruta("m.vdm"));
+        ModeloModificado(*c.archivo ? Ruta(c.archivo) : "");
+        modelo().Modificado = c.modificado;
+        pruebas::GuionDialogos dialogos; // strict: only the closing's save-as is expected
+        if (c.cerrar && !*c.archivo) {
+            dialogos.Cancelar(tituloGuardar);
+        }
+        acta.respuestas = {c.respuesta};
+        const bool sigue =
+            c.cerrar ? GuardarAlCerrar(modelo(), Directorio()) : GuardarAntesDeNuevo(modelo());
+        acta.Fila(std::string(c.cerrar ? "close" : "new") + (c.modificado ? ", modified" : "") +
+                      ", file '" + c.archivo + "'",
+                  std::string(sigue ? "goes on" : "stops") +
+                      (ExisteArchivo(Ruta("m.vdm")) ? ", saved" : "") +
+                      (modelo().Modificado ? ", still modified" : ""));
+    }
+    acta.Comparar("comandos/guardar_nuevo_cerrar.txt");
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "core/shell/flujo_trabajo.h"
+#include "soporte/acta.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -27,7 +28,6 @@ std::string Marca(const char* nombre, const std::optional<bool>& valor) {
     return valor ? std::string(" ") + nombre + (*valor ? "+" : "-") : "";
 }
 
-// A step written out in the order the main window applies it.
 std::string Describir(const Transicion& t) {
     const Ajuste& a = t.ajuste;
     std::string texto = "[" + Marca("entradas", a.entradasDiseno) +
@@ -43,46 +43,33 @@ std::string Describir(const Transicion& t) {
     return texto;
 }
 
-const std::string kA = "[ entradas+ retroceder- b8- continuar+ b9+ grupo+";
-const std::string kB = "[ entradas- retroceder+ b8+ continuar+ b9+ grupo-";
-
+// Each step written out in the order the main window applies it, kept as data: the settings,
+// the windows accepted, unloaded and loaded, and where the line goes.
 TEST_F(FlujoTrabajo, EveryStepOfTheLineOpensClosesAndEnablesWhatItMust) {
     Modelo conRequerimientos;
     conRequerimientos.NumRequerimientos = 2;
     const Modelo vacio;
-    const std::pair<Transicion, std::string> casos[] = {
-        {TransicionContinuar(Posicion::Ejes),
-         kB + " ] aceptar:frmComponentes,frmRequerimientos,frmEtapas descargar:frmEjes "
-              "cargar:frmResumen -> Resumen"},
-        {TransicionContinuar(Posicion::Resumen),
-         kB + " importar- ] aceptar: descargar: cargar: -> = permisos"},
-        {TransicionTrasPermisos(),
-         "[ ] aceptar: descargar:frmResumen cargar:frmPonderacion -> Ponderacion"},
-        {TransicionContinuar(Posicion::Ponderacion),
-         kB + " ] aceptar: descargar:frmPonderacion cargar:frmInforme -> Informe"},
-        {TransicionContinuar(Posicion::Informe), "[ ] aceptar: descargar: cargar: -> = final"},
-        {TransicionCompilarAlFinal(),
-         "[ entradas- retroceder+ b8+ continuar- b9- grupo- ] aceptar: descargar: cargar: -> ="},
-        {TransicionRetroceder(Posicion::Informe, conRequerimientos),
-         kB + " ] aceptar: descargar:frmInforme cargar:frmPonderacion -> Ponderacion"},
-        {TransicionRetroceder(Posicion::Informe, vacio),
-         kB + " ] aceptar: descargar:frmInforme cargar:frmResumen -> Resumen"},
-        {TransicionRetroceder(Posicion::Ponderacion, vacio),
-         kB + " importar+ ] aceptar: descargar:frmPonderacion cargar:frmResumen -> Resumen"},
-        {TransicionRetroceder(Posicion::Resumen, vacio),
-         kA + " ] aceptar: descargar:frmResumen cargar:frmEjes -> Ejes"},
-        {TransicionRetroceder(Posicion::Ejes, vacio),
-         "[ entradas- retroceder- b8- continuar- b9- panel- ] aceptar: "
-         "descargar:frmComponentes,frmRequerimientos,frmEtapas,frmEjes cargar: -> ="},
-        {TransicionSaltoResumen(),
-         "[ entradas- b8+ b9+ grupo- fondo- ] aceptar:frmComponentes,frmRequerimientos,frmEtapas "
-         "descargar:frmPonderacion,frmEjes cargar:frmResumen -> Resumen"},
-        {TransicionSaltoPonderacion(),
-         kB + " importar- ] aceptar: descargar:frmResumen cargar:frmPonderacion -> Ponderacion"},
+    const std::pair<const char*, Transicion> casos[] = {
+        {"Continuar at Ejes", TransicionContinuar(Posicion::Ejes)},
+        {"Continuar at Resumen", TransicionContinuar(Posicion::Resumen)},
+        {"after the permissions", TransicionTrasPermisos()},
+        {"Continuar at Ponderacion", TransicionContinuar(Posicion::Ponderacion)},
+        {"Continuar at Informe", TransicionContinuar(Posicion::Informe)},
+        {"compiling at the end", TransicionCompilarAlFinal()},
+        {"Retroceder at Informe, requirements",
+         TransicionRetroceder(Posicion::Informe, conRequerimientos)},
+        {"Retroceder at Informe", TransicionRetroceder(Posicion::Informe, vacio)},
+        {"Retroceder at Ponderacion", TransicionRetroceder(Posicion::Ponderacion, vacio)},
+        {"Retroceder at Resumen", TransicionRetroceder(Posicion::Resumen, vacio)},
+        {"Retroceder at Ejes", TransicionRetroceder(Posicion::Ejes, vacio)},
+        {"the jump to Resumen", TransicionSaltoResumen()},
+        {"the jump to Ponderacion", TransicionSaltoPonderacion()},
     };
-    for (const auto& [transicion, esperado] : casos) {
-        EXPECT_EQ(Describir(transicion), esperado);
+    pruebas::Acta acta;
+    for (const auto& [paso, transicion] : casos) {
+        acta.Fila(paso, Describir(transicion));
     }
+    acta.Comparar("comandos/transiciones.txt");
 }
 
 TEST_F(FlujoTrabajo, ButtonsAndLabelsNameTheirCommands) {

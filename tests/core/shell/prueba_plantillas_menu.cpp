@@ -3,6 +3,7 @@
 #include "core/core/ini.h"
 #include "core/files/proteccion.h"
 #include "core/shell/plantillas_menu.h"
+#include "soporte/acta.h"
 #include "soporte/componentes_etapas.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/modelo_sano.h"
@@ -174,49 +175,47 @@ TEST_F(PlantillasMenu, ACancelledDialogDoesNothing) {
 
 TEST_F(PlantillasMenu, WhatReadsAsATemplateOfEachKind) {
     using Lineas = std::vector<std::string>;
-    struct Caso {
-        Lineas lineas;
-        bool requerimientos, componentes, etapas;
+    const Lineas casos[] = {
+        {},
+        {"*****REQUERIMIENTOS*****"},
+        {"REQ_NUM = 0"},
+        {"*****COMPONENTES*****"},
+        {"x", "CMP_C1_NOM = a"},
+        {"*****ETAPAS*****", "ETA_NUM = 0"},
+        {"*****MODELO*****", "REQ_NUM = 0", "CMP_NUM = 0", "ETA_NUM = 0"}, // the three
+        {" REQ_NUM = 0", "texto CMP_NUM", "*****ETAPAS"},
     };
-    const Caso casos[] = {
-        {{}, false, false, false},
-        {{"*****REQUERIMIENTOS*****"}, true, false, false},
-        {{"REQ_NUM = 0"}, true, false, false},
-        {{"*****COMPONENTES*****"}, false, true, false},
-        {{"x", "CMP_C1_NOM = a"}, false, true, false},
-        {{"*****ETAPAS*****", "ETA_NUM = 0"}, false, false, true},
-        // A whole model holds the three.
-        {{"*****MODELO*****", "REQ_NUM = 0", "CMP_NUM = 0", "ETA_NUM = 0"}, true, true, true},
-        {{" REQ_NUM = 0", "texto CMP_NUM", "*****ETAPAS"}, false, false, false},
-    };
-    for (const Caso& c : casos) {
-        EXPECT_EQ(EsPlantillaDe(c.lineas, ParteModelo::Requerimientos), c.requerimientos);
-        EXPECT_EQ(EsPlantillaDe(c.lineas, ParteModelo::Componentes), c.componentes);
-        EXPECT_EQ(EsPlantillaDe(c.lineas, ParteModelo::Etapas), c.etapas);
+    pruebas::Acta acta;
+    for (const Lineas& lineas : casos) {
+        std::string entrada = "lines";
+        std::string salida;
+        for (const std::string& linea : lineas) {
+            entrada += " '" + linea + "'";
+        }
+        for (const Tipo& t : kTipos) {
+            salida += EsPlantillaDe(lineas, t.parte) ? std::string(" ") + t.titulo : "";
+        }
+        acta.Fila(entrada, "a template of" + salida);
     }
+    acta.Comparar("comandos/es_plantilla.txt");
 }
 
 TEST_F(PlantillasMenu, WhatFollowsAnImport) {
-    struct Caso {
-        bool resumen, diseno;
-        bool rellenarResumen, rellenarDiseno, cargarDiseno;
-    };
-    const Caso casos[] = {
-        {true, false, true, false, false},
-        {true, true, true, false, false},
-        {false, true, false, true, false},
-        {false, false, false, false, true},
-    };
+    pruebas::Acta acta;
     for (const Tipo& t : kTipos) {
-        for (const Caso& c : casos) {
-            const EfectoImportacion e = EfectoTrasImportar(t.parte, c.resumen, c.diseno);
-            EXPECT_EQ(e.etiqueta, t.etiqueta);
-            EXPECT_EQ(e.seguirPermiso, t.parte == ParteModelo::Requerimientos);
-            EXPECT_EQ(e.rellenarResumen, c.rellenarResumen);
-            EXPECT_EQ(e.rellenarDiseno, c.rellenarDiseno);
-            EXPECT_EQ(e.cargarDiseno, c.cargarDiseno);
+        for (const auto& [resumen, diseno] :
+             {std::pair{true, false}, {true, true}, {false, true}, {false, false}}) {
+            const EfectoImportacion e = EfectoTrasImportar(t.parte, resumen, diseno);
+            acta.Fila(std::string(t.titulo) + (resumen ? ", summary open" : "") +
+                          (diseno ? ", design window open" : ""),
+                      "label " + std::to_string(e.etiqueta) +
+                          (e.seguirPermiso ? ", the permission follows" : "") +
+                          (e.rellenarResumen ? ", summary refilled" : "") +
+                          (e.rellenarDiseno ? ", design window refilled" : "") +
+                          (e.cargarDiseno ? ", design window loaded" : ""));
         }
     }
+    acta.Comparar("comandos/tras_importar.txt");
 }
 
 } // namespace

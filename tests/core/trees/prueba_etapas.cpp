@@ -1,4 +1,5 @@
 #include "core/trees/edicion_etapas.h"
+#include "soporte/acta.h"
 #include "soporte/componentes_etapas.h"
 #include "soporte/prueba_sesion.h"
 
@@ -91,19 +92,16 @@ TEST_F(Etapas, WritingBackSizesTheModelsList) {
 }
 
 TEST_F(Etapas, ClosingAsksOnlyWhenNotAccepted) {
-    EXPECT_TRUE(PuedeCerrarRequerimientos(true));
-    EXPECT_TRUE(PuedeCerrarComponentes(true));
-    mensajes
-        .Esperar("VADRO PROGRAMADOR: cerrar requerimientos",
-                 "Está seguro que quiere descartar los cambios realizados en el árbol de "
-                 "requerimientos?",
-                 Respuesta::No)
-        .Esperar("VADRO PROGRAMADOR: cerrar componentes",
-                 "Está seguro que quiere descartar los cambios realizados en el árbol de "
-                 "componentes?",
-                 Respuesta::Si);
-    EXPECT_FALSE(PuedeCerrarRequerimientos(false));
-    EXPECT_TRUE(PuedeCerrarComponentes(false));
+    Acta acta;
+    acta.respuestas = {Respuesta::No, Respuesta::Si};
+    for (const bool aceptado : {true, false}) {
+        const std::string como = aceptado ? ", accepted" : "";
+        acta.Fila("close the requirements" + como,
+                  PuedeCerrarRequerimientos(aceptado) ? "closes" : "stays");
+        acta.Fila("close the components" + como,
+                  PuedeCerrarComponentes(aceptado) ? "closes" : "stays");
+    }
+    acta.Comparar("arboles/cerrar_disenos.txt");
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "core/core/formato_numero.h"
 #include "core/weighting/ventana_pesos.h"
 #include "referencia_ahp.h"
+#include "soporte/acta.h"
 #include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
 
@@ -8,15 +9,6 @@
 
 namespace vadro {
 namespace {
-
-const std::string kNoPositivo = "El valor introducido no puede ser cero ni negativo.\nSi no quiere "
-                                "introducir ahora un nuevo valor, deje la casilla en blanco.";
-const std::string kTituloPonderacion = "VADRO PROGRAMADOR: Ponderación";
-const std::string kTituloMatriz = "VADRO PROGRAMADOR: matriz de pesos";
-const std::string kAvisoAhp = "La matriz de pesos AHP ha sido modificada y se perderán los "
-                              "valores introducidos.\nDesea continuar?";
-const std::string kAvisoDirecto = "La matriz de introducción directa de pesos ha sido "
-                                  "modificada y se perderán sus valores.\nDesea continuar?";
 
 TEST(CeldasPesos, OnlyCellsOffTheDiagonalAndBeforeTheWeightsTakeTheInput) {
     // A set of three: the matrix grid is 4 x 5, the direct grid 5 x 3.
@@ -125,40 +117,25 @@ TEST_F(VentanaPesosPrueba, ACommitInTheMatrixStoresTheTextAndItsMirrorAndRecompu
 }
 
 TEST_F(VentanaPesosPrueba, ZeroNegativeEmptyAndNoNumberInTheMatrix) {
-    struct Caso {
-        std::string texto;
-        Confirmacion resultado;
-        bool mensaje, marca;
-    };
-    const Caso casos[] = {
-        {"0", Confirmacion::Rechazada, true, true},
-        {"-2", Confirmacion::Rechazada, true, true},
-        {"0.0e5", Confirmacion::Rechazada, true, true},
-        {"1e", Confirmacion::Descartada, false, true},
-        {"+", Confirmacion::Descartada, false, true},
-        {"1e999", Confirmacion::Descartada, false, true},
-        {"", Confirmacion::Blanqueada, false, false},
-    };
-    for (const Caso& caso : casos) {
+    const char* const nombres[] = {"stored", "blanked", "refused", "discarded"};
+    pruebas::Acta acta;
+    for (const char* texto : {"0", "-2", "0.0e5", "1e", "+", "1e999", ""}) {
         ASSERT_EQ(Teclear(1, 2, "4"), Confirmacion::Introducida);
         edicion.ModificadoAHP = false;
         const std::string pesos = saaty.Texto(1, 4) + saaty.Texto(2, 4);
         const ValorLibre razon = edicion.Consistencia;
-        if (caso.mensaje) {
-            mensajes.Esperar(kTituloPonderacion, kNoPositivo);
-        }
-        EXPECT_EQ(Teclear(1, 2, caso.texto), caso.resultado) << caso.texto;
-        EXPECT_TRUE(mensajes.Completo());
-        EXPECT_EQ(edicion.ModificadoAHP, caso.marca) << caso.texto;
-        EXPECT_EQ(sesion().MatrizSaaty(1, 2), ValorLibre("4")) << "the matrix keeps " << caso.texto;
+        const Confirmacion resultado = Teclear(1, 2, texto);
+        acta.Fila(std::string("'") + texto + "'",
+                  std::string(nombres[static_cast<int>(resultado)]) +
+                      (edicion.ModificadoAHP ? ", typed in" : "") + ", cells '" +
+                      saaty.Texto(1, 2) + "' '" + saaty.Texto(2, 1) + "'");
+        EXPECT_EQ(sesion().MatrizSaaty(1, 2), ValorLibre("4")) << "the matrix keeps " << texto;
         EXPECT_EQ(sesion().MatrizSaaty(2, 1), ValorLibre(0.25));
         EXPECT_EQ(saaty.Texto(1, 4) + saaty.Texto(2, 4), pesos);
         EXPECT_EQ(edicion.Consistencia, razon);
-        const bool blanqueada = caso.resultado == Confirmacion::Blanqueada;
-        EXPECT_EQ(saaty.Texto(1, 2), blanqueada ? "" : "4.00") << caso.texto;
-        EXPECT_EQ(saaty.Texto(2, 1), blanqueada ? "" : "0.25") << caso.texto;
     }
-    EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Informacion);
+    acta.Comparar("ponderacion/confirmar_saaty.txt");
+    EXPECT_EQ(acta.vistos.at(0).icono, Icono::Informacion);
 }
 
 TEST_F(VentanaPesosPrueba, ADirectCommitEntersTheRowsScoreWhicheverColumnWasTyped) {
@@ -275,28 +252,23 @@ TEST_F(VentanaPesosPrueba, PerfectConsistencyIsRefusedWithoutTheWholeFirstRow) {
 }
 
 TEST_F(VentanaPesosPrueba, AcceptanceAsksByTheMethodOnShowAndWritesBoth) {
-    const std::string tituloNo = "VADRO PROGRAMADOR: matriz NO consistente";
-    const std::string noConsistente = "La matriz de pesos NO es consistente. Desea modificarla?";
-    const std::string incompleta =
-        "La matriz de ponderación en modo directo no está completa. Desea continuar?";
     struct Caso {
         MetodoCalculo visible;
         ValorLibre razon;
         bool puntuaciones; // every score given
-        std::string titulo, texto;
         Respuesta respuesta;
-        bool escrito;
     };
     const Caso casos[] = {
-        {CalculoSaaty, 0.05, false, "", "", Respuesta::Aceptar, true},
-        {CalculoSaaty, 0.1, false, "", "", Respuesta::Aceptar, true},
-        {CalculoSaaty, 0.2, true, tituloNo, noConsistente, Respuesta::Si, false},
-        {CalculoSaaty, 0.2, true, tituloNo, noConsistente, Respuesta::No, true},
-        {CalculoSaaty, ValorLibre(), true, tituloNo, noConsistente, Respuesta::No, true},
-        {CalculoDirecto, 0.9, true, "", "", Respuesta::Aceptar, true},
-        {CalculoDirecto, 0.0, false, "VADRO PROGRAMADOR", incompleta, Respuesta::No, false},
-        {CalculoDirecto, 0.0, false, "VADRO PROGRAMADOR", incompleta, Respuesta::Si, true},
+        {CalculoSaaty, 0.05, false, Respuesta::Aceptar},
+        {CalculoSaaty, 0.1, false, Respuesta::Aceptar},
+        {CalculoSaaty, 0.2, true, Respuesta::Si},
+        {CalculoSaaty, 0.2, true, Respuesta::No},
+        {CalculoSaaty, ValorLibre(), true, Respuesta::No},
+        {CalculoDirecto, 0.9, true, Respuesta::Aceptar},
+        {CalculoDirecto, 0.0, false, Respuesta::No},
+        {CalculoDirecto, 0.0, false, Respuesta::Si},
     };
+    pruebas::Acta acta;
     for (const Caso& caso : casos) {
         for (int c = 1; c <= 3; ++c) {
             Nodo(c).Peso = ValorLibre();
@@ -307,15 +279,14 @@ TEST_F(VentanaPesosPrueba, AcceptanceAsksByTheMethodOnShowAndWritesBoth) {
         for (int i = 1; i <= 3; ++i) {
             ConfirmarDirecto(edicion, {i, 1}, caso.puntuaciones || i != 2 ? "1" : "", directo);
         }
-        if (!caso.texto.empty()) {
-            mensajes.Esperar(caso.titulo, caso.texto, caso.respuesta);
-        }
-        EXPECT_EQ(AceptarPesos(sesion(), edicion, caso.visible, directo), caso.escrito)
-            << caso.texto << " " << Formato00(caso.razon);
-        EXPECT_TRUE(mensajes.Completo());
-        EXPECT_EQ(sesion().modelo.Modificado, caso.escrito);
-        EXPECT_EQ(Nodo(1).Calculo == caso.visible, caso.escrito);
-        if (caso.escrito) {
+        acta.respuestas = {caso.respuesta};
+        const bool escrito = AceptarPesos(sesion(), edicion, caso.visible, directo);
+        acta.Fila(std::string(caso.visible == CalculoSaaty ? "matrix" : "direct") + ", ratio '" +
+                      Formato00(caso.razon) + "'" + (caso.puntuaciones ? "" : ", a score missing"),
+                  escrito ? "written" : "kept");
+        EXPECT_EQ(sesion().modelo.Modificado, escrito);
+        EXPECT_EQ(Nodo(1).Calculo == caso.visible, escrito);
+        if (escrito) {
             EXPECT_EQ(Nodo(3).PesoAuxiliar, caso.razon);
             EXPECT_EQ(Nodo(2).Directo, caso.puntuaciones ? ValorLibre(1.0) : ValorLibre());
             const ValorLibre esperado = caso.visible == CalculoSaaty
@@ -324,38 +295,39 @@ TEST_F(VentanaPesosPrueba, AcceptanceAsksByTheMethodOnShowAndWritesBoth) {
             EXPECT_EQ(Nodo(1).Peso, esperado);
         }
     }
+    acta.Comparar("ponderacion/aceptar_pesos.txt");
 }
 
 TEST_F(VentanaPesosPrueba, TheUnloadWarningsHangOnTheOtherGridsFlag) {
     struct Caso {
         MetodoCalculo visible;
         bool ahp, directa;
-        std::string texto; // empty: no warning
         Respuesta respuesta;
-        bool sale;
     };
     const Caso casos[] = {
-        {CalculoSaaty, false, false, "", Respuesta::Aceptar, true},
-        {CalculoSaaty, true, false, "", Respuesta::Aceptar, true},
-        {CalculoSaaty, false, true, kAvisoDirecto, Respuesta::No, false},
-        {CalculoSaaty, true, true, kAvisoDirecto, Respuesta::Si, true},
-        {CalculoDirecto, false, true, "", Respuesta::Aceptar, true},
-        {CalculoDirecto, true, false, kAvisoAhp, Respuesta::No, false},
-        {CalculoDirecto, true, true, kAvisoAhp, Respuesta::Si, true},
+        {CalculoSaaty, false, false, Respuesta::Aceptar},
+        {CalculoSaaty, true, false, Respuesta::Aceptar},
+        {CalculoSaaty, false, true, Respuesta::No},
+        {CalculoSaaty, true, true, Respuesta::Si},
+        {CalculoDirecto, false, true, Respuesta::Aceptar},
+        {CalculoDirecto, true, false, Respuesta::No},
+        {CalculoDirecto, true, true, Respuesta::Si},
     };
+    pruebas::Acta acta;
     for (const Caso& caso : casos) {
         edicion.ModificadoAHP = caso.ahp;
         edicion.ModificadoDirecto = caso.directa;
-        if (!caso.texto.empty()) {
-            mensajes.Esperar(kTituloMatriz, caso.texto, caso.respuesta);
-        }
-        EXPECT_EQ(PuedeDescargarPesos(edicion, caso.visible), caso.sale) << caso.texto;
-        EXPECT_TRUE(mensajes.Completo());
+        acta.respuestas = {caso.respuesta};
+        const bool sale = PuedeDescargarPesos(edicion, caso.visible);
+        acta.Fila(std::string(caso.visible == CalculoSaaty ? "matrix" : "direct") + " shown" +
+                      (caso.ahp ? ", matrix typed in" : "") +
+                      (caso.directa ? ", scores typed in" : ""),
+                  sale ? "unloads" : "stays");
     }
-    mensajes.Esperar("VADRO PROGRAMADOR: cerrar matriz de pesos",
-                     "Se perderán los últimos datos introducidos. Desea continuar?", Respuesta::No);
-    EXPECT_FALSE(ConfirmarCancelacion());
-    EXPECT_EQ(mensajes.Vistos().back().icono, Icono::Pregunta);
+    acta.respuestas = {Respuesta::No};
+    acta.Fila("cancel", ConfirmarCancelacion() ? "leaves" : "stays");
+    acta.Comparar("ponderacion/descargar_pesos.txt");
+    EXPECT_EQ(acta.vistos.back().icono, Icono::Pregunta);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "arbol_ponderado.h"
 #include "core/weighting/vista_ponderacion.h"
+#include "soporte/acta.h"
 #include "soporte/datos.h"
 #include "soporte/prueba_sesion.h"
 
@@ -12,8 +13,6 @@ namespace vadro {
 namespace {
 
 const std::string kTitulo = "VADRO PROGRAMADOR: Ponderación";
-const std::string kRamaIncompleta = "Esta rama del árbol no está completa. Solucione el problema "
-                                    "en la ventana de diseño del árbol de requerimientos.";
 
 // The grid as text: the heads, then per row its path and its cells, a merged cell written
 // once with the rows it spans and "^" under it, "[rojo]" for light red.
@@ -105,95 +104,40 @@ TEST_F(VistaPonderacionPrueba, ANodeShowsItsKeyNameAndWeightOnlyWhenItHasOne) {
     }
 }
 
-TEST_F(VistaPonderacionPrueba, AClickSelectsTheSetOfItsNearestFilledParent) {
-    struct Caso {
-        int fila, columna;
-        std::optional<SeleccionConjunto> conjunto; // none: the incomplete-branch message
+// Each cell: the set a click selects (the nearest filled parent's; none, with the message, on
+// an incomplete branch), the nodes of the set a double click weighs, and the global weight
+// along its path (60 % x 50 % x 40 % x 25 % = 3 %; the criterion's own indicator skips the
+// empty column).
+TEST_F(VistaPonderacionPrueba, WhatEachCellSelectsWeighsAndShowsAsGlobalWeight) {
+    const std::pair<int, int> celdas[] = {
+        {0, 0}, {3, 0}, {4, 0}, {6, 0}, {0, 1}, {2, 1}, {5, 1}, {6, 1}, {0, 2}, {1, 2},
+        {2, 2}, {3, 2}, {5, 2}, {0, 3}, {1, 3}, {2, 3}, {3, 3}, {4, 3}, {5, 3},
     };
-    const Caso casos[] = {
-        {3, 0, SeleccionConjunto{0, 0, 6}}, // the requirements: all rows
-        {6, 0, SeleccionConjunto{0, 0, 6}},
-        {0, 1, SeleccionConjunto{1, 0, 5}}, // criteria of R1
-        {5, 1, SeleccionConjunto{1, 0, 5}},
-        {1, 2, SeleccionConjunto{2, 0, 2}}, // subcriteria of C1
-        {2, 2, SeleccionConjunto{2, 0, 2}},
-        {3, 2, SeleccionConjunto{3, 3, 4}}, // empty subcriterion: C2's own indicators
-        {4, 3, SeleccionConjunto{3, 3, 4}},
-        {1, 3, SeleccionConjunto{3, 0, 1}}, // indicators of S1
-        {6, 1, std::nullopt},               // R2 has no criteria
-        {2, 3, std::nullopt},               // S2 has no indicators
-        {5, 2, std::nullopt},               // C3 has nothing under it
-        {5, 3, std::nullopt},
-    };
-    for (const Caso& caso : casos) {
-        if (!caso.conjunto) {
-            mensajes.Esperar(kTitulo, kRamaIncompleta);
+    pruebas::Acta acta;
+    acta.iconos = true;
+    for (const auto& [fila, columna] : celdas) {
+        const auto conjunto = SeleccionarConjunto(vista, fila, columna);
+        EXPECT_EQ(ConjuntoDeCelda(vista, fila, columna), conjunto) << fila << "," << columna;
+        std::string texto = "no set";
+        if (conjunto) {
+            texto = "set in column " + std::to_string(conjunto->Columna) + ", rows " +
+                    std::to_string(conjunto->Primera) + "-" + std::to_string(conjunto->Ultima);
         }
-        EXPECT_EQ(SeleccionarConjunto(vista, caso.fila, caso.columna), caso.conjunto)
-            << caso.fila << "," << caso.columna;
-        EXPECT_EQ(ConjuntoDeCelda(vista, caso.fila, caso.columna), caso.conjunto);
-        EXPECT_TRUE(mensajes.Completo());
-    }
-    EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Informacion);
-}
-
-TEST_F(VistaPonderacionPrueba, ADoubleClickAddressesTheSetOfItsCell) {
-    struct Caso {
-        int fila, columna;
-        std::string nombres; // of the set's nodes; "-" for none
-    };
-    const Caso casos[] = {
-        {4, 0, "Económico Social "},
-        {2, 1, "Coste Plazo Riesgo "},
-        {0, 2, "Obra Mantenimiento "},
-        {3, 2, "Meses Hitos "},
-        {4, 3, "Meses Hitos "},
-        {1, 3, "Hormigón Acero "},
-        {6, 1, "-"},
-        {2, 3, "-"},
-        {5, 2, "-"},
-    };
-    for (const Caso& caso : casos) {
-        const auto direccion = DireccionDeCelda(vista, caso.fila, caso.columna);
-        std::string nombres = "-";
-        if (direccion) {
-            nombres.clear();
+        texto += "; weighs";
+        if (const auto direccion = DireccionDeCelda(vista, fila, columna)) {
             for (const CabeceraNodo* nodo : NodosConjunto(modelo, *direccion)) {
-                nombres += nodo->Nombre + " ";
+                texto += " " + nodo->Nombre;
             }
+        } else {
+            texto += " nothing";
         }
-        EXPECT_EQ(nombres, caso.nombres) << caso.fila << "," << caso.columna;
+        acta.Fila("cell " + std::to_string(fila) + "," + std::to_string(columna),
+                  texto + "; '" + TextoPesoGlobal(modelo, vista, fila, columna) + "'");
     }
-}
-
-TEST_F(VistaPonderacionPrueba, TheGlobalWeightMultipliesTheWeightsAlongThePath) {
-    struct Caso {
-        int fila, columna;
-        std::string texto;
-    };
-    // 60 % x 50 % x 40 % x 25 % = 3 %; the criterion's own indicator skips the empty column.
-    const Caso casos[] = {
-        {0, 0, "Peso global: 60.00 %"},
-        {6, 0, "Peso global: 40.00 %"},
-        {0, 1, "Peso global: 30.00 %"},
-        {1, 2, "Peso global: 12.00 %"},
-        {2, 2, "Peso global: 18.00 %"},
-        {0, 3, "Peso global: 3.00 %"},
-        {1, 3, "Peso global: 9.00 %"},
-        {3, 3, "Peso global: 9.00 %"},
-        {4, 3, ""},
-        {5, 1, ""},
-        {2, 3, ""},
-        {6, 1, ""},
-    };
-    for (const Caso& caso : casos) {
-        EXPECT_EQ(TextoPesoGlobal(modelo, vista, caso.fila, caso.columna), caso.texto)
-            << caso.fila << "," << caso.columna;
-    }
+    acta.Comparar("ponderacion/celdas.txt");
     modelo.Requerimientos(1).Peso = ValorLibre();
     EXPECT_EQ(TextoPesoGlobal(modelo, vista, 0, 3), "") << "a missing weight up the path";
 }
-
 TEST_F(VistaPonderacionPrueba, RebuildingASetTakesItsNewWeightsAndColours) {
     const SeleccionConjunto conjunto{3, 3, 4};
     NodoCriterio& plazo = modelo.Requerimientos(1).Criterios(2);

@@ -7,6 +7,7 @@
 #include "core/core/version.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
+#include "soporte/acta.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/modelo_sano.h"
 #include "windows/core/frmInicio.h"
@@ -62,9 +63,7 @@ TEST_F(Abrir, AModelMadeOutsideOpensAtEjesWithItsCaptionLabelsAndStatus) {
     AbrirDesdeBarra(ruta);
     EXPECT_EQ(Titulo(), "VADRO PROGRAMADOR - [" + ruta + "]");
     EXPECT_EQ(sesion().modelo.Nombre, "Depuradora");
-    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
-    EXPECT_EQ(Estado(), "Posición: ejes");
+    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
     for (int i : {1, 2, 3, 6}) {
         EsperarNormal(i);
     }
@@ -153,28 +152,17 @@ TEST_F(Abrir, ExistenteOnTheStartScreenLeadsToTheOpenDialog) {
 TEST_F(Abrir, BadFilesAreToldAndNothingIsDamaged) {
     Escribir(Ruta("foto.vdm"), std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
     std::filesystem::create_directories(Ruta("carpeta.vdm"));
-    struct Caso {
-        std::string ruta;
-        std::string texto;
-    };
-    const Caso casos[] = {
-        {Ruta("foto.vdm"),
-         "Error 321 al abrir el modelo: El archivo no contiene un modelo de VADRO."},
-        {Ruta("no_esta.vdm"),
-         "Error 53 al abrir el modelo: " + DescripcionError(ErrArchivoNoEncontrado)},
-        {Ruta("carpeta.vdm"),
-         "Error 75 al abrir el modelo: " + DescripcionError(ErrAccesoRuta) + ": no es un archivo"},
-    };
-    for (const Caso& c : casos) {
-        const bool archivo = std::filesystem::is_regular_file(c.ruta);
-        const std::string bytes = archivo ? Contenido(c.ruta) : std::string();
-        mensajes.Esperar(tituloFallo, c.texto);
-        AbrirDesdeBarra(c.ruta);
-        EXPECT_EQ(Titulo(), "VADRO PROGRAMADOR") << c.ruta;
-        EXPECT_TRUE(Hijas().empty());
-        EXPECT_EQ(sesion().modelo.Archivo, "");
-        EXPECT_EQ(archivo ? Contenido(c.ruta) : std::string(), bytes);
+    pruebas::Acta acta;
+    for (const char* nombre : {"foto.vdm", "no_esta.vdm", "carpeta.vdm"}) {
+        const std::string ruta = Ruta(nombre);
+        const bool archivo = std::filesystem::is_regular_file(ruta);
+        const std::string bytes = archivo ? Contenido(ruta) : std::string();
+        AbrirDesdeBarra(ruta);
+        acta.Fila(nombre, "'" + Titulo() + "', file '" + sesion().modelo.Archivo + "', " +
+                              std::to_string(Hijas().size()) + " windows");
+        EXPECT_EQ(archivo ? Contenido(ruta) : std::string(), bytes);
     }
+    acta.Comparar("comandos/abrir_fallos_ventana.txt");
     // The next save asks for a name instead of writing over the file that failed.
     pruebas::GuionDialogos dialogos;
     dialogos.Cancelar("Guardar modelo como...");
@@ -219,50 +207,40 @@ protected:
         AbrirDesdeBarra(ModeloEnDisco("sub.vdm", m));
         ASSERT_TRUE(principal.mnuPermitirSubcriterios->isChecked());
     }
-    const std::string tituloEliminar = "VADRO PROGRAMADOR: eliminar subcriterios";
-    const std::string textoEliminar =
-        "Existen subcriterios en el modelo actual que serán eliminados. Desea continuar?";
 };
 
-TEST_F(Subcriterios, OffWithSubcriteriaAsksAndYesMovesTheIndicatorsUp) {
+// The entry follows the answers: off asks while the model holds subcriteria, and Yes moves
+// their indicators up; on always asks.
+TEST_F(Subcriterios, TheEntryFollowsTheAnswersAndTheModel) {
     AbrirConSubcriterios();
-    mensajes.Esperar(tituloEliminar, textoEliminar, Respuesta::No);
-    principal.mnuPermitirSubcriterios->trigger();
-    EXPECT_TRUE(principal.mnuPermitirSubcriterios->isChecked()) << "No changes nothing";
-    EXPECT_EQ(sesion().modelo.Requerimientos(1).Criterios(1).NumSubcriterios, ValorLibre(1));
-
-    PulsarEtiqueta(1);
-    mensajes.Esperar(tituloEliminar, textoEliminar, Respuesta::Si);
-    principal.mnuPermitirSubcriterios->trigger();
-    EXPECT_FALSE(principal.mnuPermitirSubcriterios->isChecked());
-    const NodoCriterio& c = sesion().modelo.Requerimientos(1).Criterios(1);
-    EXPECT_EQ(c.NumSubcriterios.Cuenta(), 0);
-    ASSERT_EQ(c.NumIndicadores, ValorLibre(2));
-    EXPECT_EQ(c.Indicadores(2).Nombre, "b");
-    EXPECT_FALSE(sesion().modelo.ConSubcriterios);
-    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmRequerimientos"}));
-
-    // Off without subcriteria in the model goes without a question.
-    mensajes.Esperar("VADRO PROGRAMADOR: permitir subcriterios",
-                     "Se recomienda un máximo de tres niveles en el árbol de requerimientos.\r"
-                     "Está seguro de querer usar subcriterios?",
-                     Respuesta::Si);
-    principal.mnuPermitirSubcriterios->trigger();
-    EXPECT_TRUE(principal.mnuPermitirSubcriterios->isChecked());
-    EXPECT_TRUE(sesion().modelo.ConSubcriterios);
-    principal.mnuPermitirSubcriterios->trigger();
-    EXPECT_FALSE(principal.mnuPermitirSubcriterios->isChecked());
-}
-
-TEST_F(Subcriterios, NoToAllowingLeavesTheEntryUnchecked) {
-    NuevoModelo();
-    mensajes.Esperar("VADRO PROGRAMADOR: permitir subcriterios",
-                     "Se recomienda un máximo de tres niveles en el árbol de requerimientos.\r"
-                     "Está seguro de querer usar subcriterios?",
-                     Respuesta::No);
-    principal.mnuPermitirSubcriterios->trigger();
-    EXPECT_FALSE(principal.mnuPermitirSubcriterios->isChecked());
-    EXPECT_FALSE(sesion().modelo.ConSubcriterios);
+    const std::pair<const char*, Respuesta> pasos[] = {
+        {"off, subcriteria in the model", Respuesta::No},
+        {"off, the requirements window open", Respuesta::Si},
+        {"on", Respuesta::Si},
+        {"off, no subcriteria in the model", Respuesta::Aceptar},
+        {"on", Respuesta::No},
+    };
+    pruebas::Acta acta;
+    for (const auto& [paso, respuesta] : pasos) {
+        if (std::string(paso).find("window") != std::string::npos) {
+            PulsarEtiqueta(1);
+        }
+        acta.respuestas = {respuesta};
+        principal.mnuPermitirSubcriterios->trigger();
+        const NodoCriterio& c = sesion().modelo.Requerimientos(1).Criterios(1);
+        std::string hijas;
+        for (const std::string& hija : Hijas()) {
+            hijas += " " + hija;
+        }
+        acta.Fila(
+            paso,
+            std::string(principal.mnuPermitirSubcriterios->isChecked() ? "checked" : "unchecked") +
+                (sesion().modelo.ConSubcriterios ? ", allowed" : "") + ", " +
+                std::to_string(c.NumSubcriterios.Cuenta()) + " subcriteria, " +
+                std::to_string(c.NumIndicadores.Cuenta()) + " indicators, windows" + hijas);
+    }
+    acta.Comparar("comandos/menu_subcriterios.txt");
+    EXPECT_EQ(sesion().modelo.Requerimientos(1).Criterios(1).Indicadores(2).Nombre, "b");
 }
 
 class Plantillas : public Abrir {

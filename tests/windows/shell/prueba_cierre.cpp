@@ -44,9 +44,7 @@ TEST_F(Cierre, CancelRefusesTheCloseAndReloadsTheWindowsOfEjes) {
     EXPECT_EQ(mensajes.Vistos().at(0).botones, Botones::SiNoCancelar);
     EXPECT_TRUE(principal.isVisible());
     EXPECT_TRUE(principal.Cargado);
-    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmRequerimientos", "frmEtapas"}));
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
-    EXPECT_EQ(Estado(), "Posición: ejes");
+    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes frmRequerimientos frmEtapas");
     EXPECT_TRUE(principal.pctPrincipal->isVisible());
     EXPECT_FALSE(principal.pctFondo->isVisible()) << "the requirements window hides it";
     EXPECT_EQ(sesion().modelo, antes) << "Modificado stays too";
@@ -58,15 +56,13 @@ TEST_F(Cierre, CancelReloadsTheWindowOfEachPosition) {
     principal.cmdContinuar->click();
     EsperarPregunta(Respuesta::Cancelar);
     EXPECT_FALSE(principal.close());
-    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
+    EXPECT_EQ(Situacion(), "Resumen | Posición: resumen | frmResumen");
 
     UnRequerimiento();
     ContinuarAceptandoPermisos();
     EsperarPregunta(Respuesta::Cancelar);
     EXPECT_FALSE(principal.close());
-    EXPECT_EQ(Hijas(), Strings{"frmPonderacion"});
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ponderacion");
+    EXPECT_EQ(Situacion(), "Ponderacion | Posición: ponderacion | frmPonderacion");
 }
 
 TEST_F(Cierre, CancelAtTheEmptyDeskBringsNothingBack) {

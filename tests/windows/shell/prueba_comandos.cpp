@@ -51,8 +51,7 @@ TEST_F(Comandos, NuevoUnloadsEveryOtherWindowBeforeTheProperties) {
     });
     PulsarBoton("Nuevo");
     EXPECT_EQ(Hijas(), Strings{"frmEjes"}) << "a cancelled dialog leaves the new model in place";
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
-    EXPECT_EQ(Estado(), "Posición: ejes");
+    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
 }
 
 TEST_F(Comandos, CancelAtTheQuestionOfNuevoChangesNothing) {
@@ -63,8 +62,7 @@ TEST_F(Comandos, CancelAtTheQuestionOfNuevoChangesNothing) {
     mensajes.Esperar(tituloNuevo, preguntaNuevo, Respuesta::Cancelar);
     principal.mnuNuevo->trigger();
     EXPECT_EQ(sesion().modelo.Nombre, "en curso");
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
-    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
+    EXPECT_EQ(Situacion(), "Resumen | Posición: resumen | frmResumen");
 }
 
 TEST_F(Comandos, YesAtTheQuestionOfNuevoSavesTheModelFirst) {
@@ -88,8 +86,7 @@ TEST_F(Comandos, TheStartScreenLeadsToANewModelAndClosesItself) {
     frmInicio inicio([this] { principal.Nuevo(); }, [this] { principal.Abrir(); }, &principal);
     MostrarModal(inicio);
     EXPECT_EQ(frmInicio::Abierto(), nullptr);
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
-    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
+    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
 }
 
 TEST_F(Comandos, SavingANewModelAsksForANameAndShowsItInTheCaption) {

@@ -1,7 +1,9 @@
 #include "ventana_principal.h"
 
+#include "core/core/comunes.h"
 #include "core/core/configuracion.h"
 #include "soporte/volcado_ventana.h"
+#include "windows/core/texto.h"
 #include "windows/shell/frmConfigEjes.h"
 #include "windows/shell/frmEjes.h"
 #include "windows/shell/frmPropiedades.h"
@@ -29,6 +31,11 @@ using Strings = std::vector<std::string>;
 class Ejes : public pruebas::VentanaPrincipal {
 protected:
     frmEjes& VentanaEjes() { return *dynamic_cast<frmEjes*>(Hija("frmEjes")); }
+    // The captions of the three axes: time, requirements, components.
+    static std::string Botones(const frmEjes& ejes) {
+        return ACadena(ejes.cmdTiempo->text() + u'|' + ejes.cmdRequerimientos->text() + u'|' +
+                       ejes.cmdComponentes->text());
+    }
 
     static void Entrar(QWidget* control) {
         QEnterEvent entrada(QPointF(2, 2), QPointF(2, 2), QPointF(2, 2));
@@ -58,9 +65,7 @@ TEST_F(Ejes, TheButtonsShowTheAxesOfTheModel) {
     sesion().modelo.EjeX = "Años";
     sesion().modelo.EjeZ = "";
     ejes.MostrarEjes();
-    EXPECT_EQ(ejes.cmdTiempo->text(), QStringLiteral("Años"));
-    EXPECT_EQ(ejes.cmdRequerimientos->text(), QStringLiteral("Requerimientos"));
-    EXPECT_EQ(ejes.cmdComponentes->text(), QString());
+    EXPECT_EQ(Botones(ejes), "Años|Requerimientos|");
 }
 
 TEST_F(Ejes, EachAxisOpensItsDesignWindowOnlyOnce) {
@@ -142,12 +147,11 @@ TEST_F(Ejes, TheAxesDialogFromTheWindowAndFromTheMenu) {
         QTest::keyClick(x, Qt::Key_Return);
     });
     QTest::mouseClick(ejes.cmdEjes, Qt::LeftButton);
-    EXPECT_EQ(sesion().modelo.EjeX, "Plazo") << "the typing replaced the selected text";
-    EXPECT_EQ(sesion().modelo.EjeY, "Requerimientos");
-    EXPECT_EQ(sesion().modelo.EjeZ, "");
-    EXPECT_TRUE(sesion().modelo.Modificado);
-    EXPECT_EQ(ejes.cmdTiempo->text(), QStringLiteral("Plazo"));
-    EXPECT_EQ(ejes.cmdComponentes->text(), QString());
+    const Modelo& m = sesion().modelo;
+    EXPECT_EQ(m.EjeX + "|" + m.EjeY + "|" + m.EjeZ, "Plazo|Requerimientos|")
+        << "the typing replaced the selected text";
+    EXPECT_TRUE(m.Modificado);
+    EXPECT_EQ(Botones(ejes), "Plazo|Requerimientos|");
 
     sesion().modelo.Modificado = false;
     modales.Esperar(QStringLiteral("frmConfigEjes"), [](QDialog& d) {
@@ -184,13 +188,9 @@ TEST_F(Ejes, ThePropertiesDialogLoadsAcceptsAndCancels) {
         QTest::mouseClick(dialogo->cmdAceptar, Qt::LeftButton);
     });
     principal.mnuPropiedades->trigger();
-    EXPECT_EQ(m.Nombre, "campo 0");
-    EXPECT_EQ(m.Fecha, "campo 1");
-    EXPECT_EQ(m.Localizacion, "campo 2");
-    EXPECT_EQ(m.Autor, "campo 3");
-    EXPECT_EQ(m.Referencia, "campo 4");
-    EXPECT_EQ(m.Version, "campo 5");
-    EXPECT_EQ(m.Descripcion, "campo 6");
+    EXPECT_EQ(Unir({m.Nombre, "|", m.Fecha, "|", m.Localizacion, "|", m.Autor, "|", m.Referencia,
+                    "|", m.Version, "|", m.Descripcion}),
+              "campo 0|campo 1|campo 2|campo 3|campo 4|campo 5|campo 6");
 
     modales.Esperar(QStringLiteral("frmPropiedades"), [](QDialog& d) {
         Hijo<QLineEdit>(d, "txtInfo(0)")->setText(QStringLiteral("otro"));

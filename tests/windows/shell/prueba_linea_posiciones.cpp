@@ -1,5 +1,7 @@
 #include "ventana_principal.h"
 
+#include "soporte/volcado_ventana.h"
+
 #include "windows/trees/frmComponentes.h"
 #include "windows/trees/frmEtapas.h"
 #include "windows/trees/frmRequerimientos.h"
@@ -36,20 +38,6 @@ protected:
     }
 };
 
-TEST_F(LineaPosiciones, BeforeAModelTheLineCannotBeWalked) {
-    EXPECT_EQ(principal.windowTitle().toStdString(), "VADRO PROGRAMADOR");
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "");
-    EXPECT_EQ(Estado(), "Posición: ");
-    EXPECT_FALSE(principal.pctPrincipal->isVisible());
-    EXPECT_FALSE(principal.mnuModelo->menuAction()->isVisible());
-    EXPECT_FALSE(Habilitado(8));
-    EXPECT_FALSE(Habilitado(9));
-    for (int i = 10; i <= 13; ++i) {
-        EXPECT_FALSE(Visible(i));
-    }
-    EXPECT_TRUE(Hijas().empty());
-}
-
 TEST_F(LineaPosiciones, AWalkFromANewModelToTheEndOfTheLineAndBack) {
     // Nuevo: the panel shows before the properties, the axes window loads after them.
     modales.Esperar(QStringLiteral("frmPropiedades"), [this](QDialog& propiedades) {
@@ -59,24 +47,14 @@ TEST_F(LineaPosiciones, AWalkFromANewModelToTheEndOfTheLineAndBack) {
         Hijo<QPushButton>(propiedades, "cmdAceptar")->click();
     });
     PulsarBoton("Nuevo");
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
-    EXPECT_EQ(Estado(), "Posición: ejes");
-    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
-    EXPECT_TRUE(principal.pctFondo->isVisible()) << "the axes stand in front of the background";
-    EXPECT_TRUE(principal.mnuModelo->menuAction()->isVisible());
-    EXPECT_FALSE(Habilitado(8));
-    EXPECT_TRUE(Habilitado(9));
-    for (int i = 10; i <= 13; ++i) {
-        EXPECT_TRUE(Visible(i));
-    }
+    // The axes stand in front of the background; the model menu and the design group show.
+    pruebas::CompararVolcado(principal, "frmPrincipal_ejes");
     for (int i : {1, 2, 3}) {
         EsperarPendiente(i);
     }
 
     principal.cmdContinuar->click();
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
-    EXPECT_EQ(Estado(), "Posición: resumen");
-    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
+    EXPECT_EQ(Situacion(), "Resumen | Posición: resumen | frmResumen");
     EsperarAjusteB();
     EXPECT_TRUE(principal.mnuImportar->menuAction()->isEnabled());
 
@@ -91,14 +69,10 @@ TEST_F(LineaPosiciones, AWalkFromANewModelToTheEndOfTheLineAndBack) {
     });
     principal.cmdContinuar->click();
     EXPECT_TRUE(sesion().modelo.PermisoUsuarioVer);
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ponderacion");
-    EXPECT_EQ(Estado(), "Posición: ponderacion");
-    EXPECT_EQ(Hijas(), Strings{"frmPonderacion"});
+    EXPECT_EQ(Situacion(), "Ponderacion | Posición: ponderacion | frmPonderacion");
 
     principal.cmdContinuar->click();
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Informe");
-    EXPECT_EQ(Estado(), "Posición: informe");
-    EXPECT_EQ(Hijas(), Strings{"frmInforme"});
+    EXPECT_EQ(Situacion(), "Informe | Posición: informe | frmInforme");
     EsperarAjusteB();
     SinRequerimientos();
 
@@ -132,15 +106,11 @@ TEST_F(LineaPosiciones, AWalkFromANewModelToTheEndOfTheLineAndBack) {
 
     // Back: no requirements, so the weights are skipped.
     principal.cmdRetroceder->click();
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
-    EXPECT_EQ(Estado(), "Posición: resumen");
-    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
+    EXPECT_EQ(Situacion(), "Resumen | Posición: resumen | frmResumen");
     EsperarAjusteB();
 
     principal.cmdRetroceder->click();
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
-    EXPECT_EQ(Estado(), "Posición: ejes");
-    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
+    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
     EsperarAjusteA();
     EXPECT_FALSE(principal.mnuImportar->menuAction()->isEnabled())
         << "only the way back from the weights enables the import again";
@@ -154,9 +124,7 @@ TEST_F(LineaPosiciones, RetrocederFromANewModelLeavesForTheEmptyDesk) {
     const Modelo antes = sesion().modelo;
 
     principal.cmdRetroceder->click();
-    EXPECT_TRUE(Hijas().empty());
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes") << "the position stays";
-    EXPECT_EQ(Estado(), "Posición: ejes");
+    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes |") << "the position stays, no window";
     EXPECT_FALSE(principal.pctPrincipal->isVisible());
     EXPECT_FALSE(principal.pctFondo->isVisible());
     principal.centralWidget()->layout()->activate();
@@ -166,13 +134,9 @@ TEST_F(LineaPosiciones, RetrocederFromANewModelLeavesForTheEmptyDesk) {
                              principal.mnuComponentes, principal.mnuEtapas}) {
         EXPECT_FALSE(entrada->isEnabled());
     }
-    EXPECT_FALSE(principal.cmdRetroceder->isEnabled());
-    EXPECT_FALSE(principal.cmdContinuar->isEnabled());
-    EXPECT_FALSE(Habilitado(8));
-    EXPECT_FALSE(Habilitado(9));
-    for (int i = 10; i <= 13; ++i) {
-        EXPECT_TRUE(Visible(i)) << "the design group stays";
-    }
+    EXPECT_FALSE(principal.cmdRetroceder->isEnabled() || principal.cmdContinuar->isEnabled());
+    EXPECT_FALSE(Habilitado(8) || Habilitado(9));
+    EXPECT_TRUE(Visible(10) && Visible(11) && Visible(12) && Visible(13)) << "the design group";
     EXPECT_EQ(sesion().modelo, antes) << "the requirements window went unaccepted";
 }
 
@@ -180,14 +144,11 @@ TEST_F(LineaPosiciones, RetrocederAtInformeWithRequirementsGoesToTheWeights) {
     HastaInforme();
     sesion().modelo.NumRequerimientos = 1;
     principal.cmdRetroceder->click();
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ponderacion");
-    EXPECT_EQ(Estado(), "Posición: ponderacion");
-    EXPECT_EQ(Hijas(), Strings{"frmPonderacion"});
+    EXPECT_EQ(Situacion(), "Ponderacion | Posición: ponderacion | frmPonderacion");
     EsperarAjusteB();
 
     principal.cmdRetroceder->click();
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
-    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
+    EXPECT_EQ(Situacion(), "Resumen | Posición: resumen | frmResumen");
     EXPECT_TRUE(principal.mnuImportar->menuAction()->isEnabled());
     EsperarAjusteB();
 }
@@ -199,8 +160,7 @@ TEST_F(LineaPosiciones, TheToolbarMirrorsTheTwoButtons) {
     PulsarBoton("Continuar");
     EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
     PulsarBoton("Retroceder");
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
-    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
+    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
 }
 
 TEST_F(LineaPosiciones, ThePermissionDialogShowsTheModelAndOnlyItsAcceptanceMovesOn) {
@@ -220,9 +180,8 @@ TEST_F(LineaPosiciones, ThePermissionDialogShowsTheModelAndOnlyItsAcceptanceMove
     principal.EscribirEstado(QStringLiteral("pista"));
     principal.cmdContinuar->click();
     EXPECT_TRUE(sesion().modelo.PermisoUsuarioVer) << "nothing is stored without acceptance";
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Resumen");
-    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
-    EXPECT_EQ(Estado(), "Posición: resumen") << "the status bar is rewritten all the same";
+    EXPECT_EQ(Situacion(), "Resumen | Posición: resumen | frmResumen")
+        << "the status bar is rewritten all the same";
     EXPECT_FALSE(principal.mnuImportar->menuAction()->isEnabled());
 }
 

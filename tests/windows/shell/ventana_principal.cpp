@@ -74,6 +74,14 @@ std::string VentanaPrincipal::Estado() const {
     return principal.TextoEstado().toStdString();
 }
 
+std::string VentanaPrincipal::Situacion() const {
+    std::string texto = NombrePosicion(principal.Posicion()) + " | " + Estado() + " |";
+    for (const std::string& hija : Hijas()) {
+        texto += " " + hija;
+    }
+    return texto;
+}
+
 bool VentanaPrincipal::Visible(int boton) const {
     return principal.Boton(boton)->isVisible();
 }

@@ -36,6 +36,9 @@ protected:
     // The loaded child window of that name; fails the test when there is none.
     QWidget* Hija(const char* nombre) const;
     std::string Estado() const;
+    // Where the line stands, what the status bar says and the loaded child windows, as
+    // "Resumen | Posición: resumen | frmResumen".
+    std::string Situacion() const;
     bool Visible(int boton) const;
     bool Habilitado(int boton) const;
 

@@ -23,6 +23,12 @@ const QColor kRojo(255, 0, 0);
 const QColor kVerde(0, 255, 0);
 const QColor kAmarillo(255, 255, 192);
 const std::string kTituloPonderacion = "VADRO PROGRAMADOR: Ponderación";
+const std::string kAvisoAhp = "La matriz de pesos AHP ha sido modificada y se perderán los "
+                              "valores introducidos.\nDesea continuar?";
+const std::string kIncompleta =
+    "La matriz de ponderación en modo directo no está completa. Desea continuar?";
+const std::string kTituloNo = "VADRO PROGRAMADOR: matriz NO consistente";
+const std::string kNoConsistente = "La matriz de pesos NO es consistente. Desea modificarla?";
 const std::string kNoPositivo = "El valor introducido no puede ser cero ni negativo.\nSi no quiere "
                                 "introducir ahora un nuevo valor, deje la casilla en blanco.";
 
@@ -69,9 +75,7 @@ protected:
 
 TEST_F(VentanaPesos, TypedValuesShowTheirMirrorsTheWeightsAndTheRatio) {
     frmPesos& w = Abrir();
-    EXPECT_EQ(w.windowTitle().toStdString(), "Matriz de pesos");
-    EXPECT_TRUE(w.grdSaaty->isVisible());
-    EXPECT_FALSE(w.grdDirecto->isVisible());
+    pruebas::CompararVolcado(w, "frmPesos");
     EXPECT_EQ(Celda(*w.grdSaaty, 0, 0), "AHP");
     EXPECT_EQ(Celda(*w.grdSaaty, 0, 4), "Peso (%)");
     EXPECT_EQ(Celda(*w.grdSaaty, 2, 0), "Energía");
@@ -183,11 +187,7 @@ TEST_F(VentanaPesos, OneThirdChosenOnTheSaatyScaleWithTheCellBlinking) {
     w.grdSaaty->setCurrentIndex(w.grdSaaty->model()->index(1, 2));
     modales.Esperar(QStringLiteral("frmSaaty"), [&w](QDialog& d) {
         auto& escala = static_cast<frmSaaty&>(d);
-        EXPECT_EQ(escala.windowTitle().toStdString(), "Selección del parámetro SAATY");
-        EXPECT_EQ(escala.lblFila->text().toStdString(), "AGUA");
-        EXPECT_EQ(escala.lblMasColumna->text().toStdString(), "ENERGÍA");
-        EXPECT_EQ(escala.lblMenosColumna->text().toStdString(), "ENERGÍA");
-        EXPECT_TRUE(escala.optPeso[0]->isChecked()) << "an empty cell opens on 1";
+        pruebas::CompararVolcado(escala, "frmSaaty"); // an empty cell opens on 1
         EXPECT_EQ(escala.optPeso[11]->property("Tag").toString().toStdString(),
                   "0.333333333333333");
         // The cell under judgement blinks once a second while the scale is open.
@@ -287,14 +287,12 @@ TEST_F(VentanaPesos, AcceptanceWithAHighRatioAnsweredNoWritesTheSet) {
     Teclear(1, 3, "0.2");
     Teclear(2, 3, "8");
     const std::string pesosMostrados = Pesos(*w.grdSaaty);
-    mensajes.Esperar("VADRO PROGRAMADOR: matriz NO consistente",
-                     "La matriz de pesos NO es consistente. Desea modificarla?", Respuesta::Si);
+    mensajes.Esperar(kTituloNo, kNoConsistente, Respuesta::Si);
     w.cmdAceptar->click();
     EXPECT_TRUE(w.isVisible()) << "Yes goes back to the matrix";
     EXPECT_TRUE(Nodo(1).Peso.EsVacio());
 
-    mensajes.Esperar("VADRO PROGRAMADOR: matriz NO consistente",
-                     "La matriz de pesos NO es consistente. Desea modificarla?", Respuesta::No);
+    mensajes.Esperar(kTituloNo, kNoConsistente, Respuesta::No);
     w.cmdAceptar->click();
     EXPECT_FALSE(w.isVisible());
     EXPECT_EQ(w.result(), QDialog::Accepted);
@@ -315,10 +313,7 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     frmPesos& w = Abrir();
     Teclear(1, 2, "3"); // the matrix is typed in, then the direct method is chosen
     w.optDirecto->click();
-    EXPECT_TRUE(w.grdDirecto->isVisible());
-    EXPECT_FALSE(w.grdSaaty->isVisible());
-    EXPECT_FALSE(w.cmdConsistencia->isVisible());
-    EXPECT_FALSE(w.lblCR->isVisible());
+    pruebas::CompararVolcado(w, "frmPesos_directo");
     const QTableView& g = *w.grdDirecto;
     EXPECT_EQ(Celda(g, 0, 0) + "|" + Celda(g, 0, 1) + "|" + Celda(g, 0, 2) + "|" + Celda(g, 4, 0),
               "DIRECTO|Puntuación|Peso (%)|TOTAL");
@@ -340,9 +335,7 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     QTest::mouseClick(w.grdDirecto->viewport(), Qt::LeftButton, {}, total.center());
     EXPECT_TRUE(w.txtValor->isHidden()) << "the total row takes no input";
 
-    mensajes.Esperar("VADRO PROGRAMADOR",
-                     "La matriz de ponderación en modo directo no está completa. Desea continuar?",
-                     Respuesta::No);
+    mensajes.Esperar("VADRO PROGRAMADOR", kIncompleta, Respuesta::No);
     w.cmdAceptar->click();
     EXPECT_TRUE(Nodo(1).Peso.EsVacio());
 
@@ -351,13 +344,8 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     // The third score was typed in the percentage column: its score cell still shows nothing,
     // so the list is incomplete. Yes writes; the matrix was typed in, so the first warning
     // follows, and No keeps the window with the data written.
-    mensajes.Esperar("VADRO PROGRAMADOR",
-                     "La matriz de ponderación en modo directo no está completa. Desea continuar?",
-                     Respuesta::Si);
-    mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos",
-                     "La matriz de pesos AHP ha sido modificada y se perderán los valores "
-                     "introducidos.\nDesea continuar?",
-                     Respuesta::No);
+    mensajes.Esperar("VADRO PROGRAMADOR", kIncompleta, Respuesta::Si);
+    mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos", kAvisoAhp, Respuesta::No);
     w.cmdAceptar->click();
     EXPECT_TRUE(w.isVisible());
     EXPECT_EQ(Nodo(3).Peso, ValorLibre(60.0));
@@ -372,19 +360,13 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     w.cmdCancelar->click();
     EXPECT_TRUE(w.isVisible());
     mensajes.Esperar(tituloCerrar, cerrar, Respuesta::Si);
-    mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos",
-                     "La matriz de pesos AHP ha sido modificada y se perderán los valores "
-                     "introducidos.\nDesea continuar?",
-                     Respuesta::Si);
+    mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos", kAvisoAhp, Respuesta::Si);
     w.cmdCancelar->click();
     EXPECT_FALSE(w.isVisible());
 }
 
-TEST_F(VentanaPesos, TheDumpsOfTheThreeWindowsAndASetOfOne) {
+TEST_F(VentanaPesos, TheDumpOfThePerfectMatrixAndASetOfOne) {
     frmPesos& w = Abrir();
-    pruebas::CompararVolcado(w, "frmPesos");
-    frmSaaty escala(vadro::Celda{1, 2}, w.RejillaSaaty(), {});
-    pruebas::CompararVolcado(escala, "frmSaaty");
     Teclear(1, 2, "2");
     Teclear(1, 3, "2");
     frmConsistencia perfecta(w.RejillaSaaty(), *w.lblCR);

@@ -224,17 +224,13 @@ protected:
 
 TEST_F(PonderacionVacia, NoGoesToTheReport) {
     HastaLosPesos(Respuesta::No);
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Informe");
-    EXPECT_EQ(Estado(), "Posición: informe");
-    EXPECT_EQ(Hijas(), std::vector<std::string>{"frmInforme"});
+    EXPECT_EQ(Situacion(), "Informe | Posición: informe | frmInforme");
     EsperarAjusteB();
 }
 
 TEST_F(PonderacionVacia, YesGoesBackToTheDesign) {
     HastaLosPesos(Respuesta::Si);
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
-    EXPECT_EQ(Estado(), "Posición: ejes");
-    EXPECT_EQ(Hijas(), std::vector<std::string>{"frmEjes"});
+    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
     EsperarAjusteA();
 }
 
