@@ -130,17 +130,20 @@ TEST_F(Apertura, BadFilesAreToldAndLeaveTheBlankModelWithNoFile) {
     Escribir(Ruta("foto.vdm"), std::string("\x89PNG\r\n\x1a\nIHDR\0\0\0\x10", 16));
     Escribir(Ruta("notas.vdm"), "Lista de la compra\r\npan = 2\r\n");
     Escribir(Ruta("roto.vdm"), "*****MODELO*****\r\nREQ_NUMR = tres\r\n");
+    std::filesystem::create_directories(Ruta("carpeta.vdm"));
     pruebas::Acta acta;
-    for (const char* nombre : {"foto.vdm", "notas.vdm", "roto.vdm", "desaparecido.vdm"}) {
+    for (const char* nombre :
+         {"foto.vdm", "notas.vdm", "roto.vdm", "desaparecido.vdm", "carpeta.vdm"}) {
         const std::string ruta = Ruta(nombre);
-        const std::string antes = Contenido(ruta);
+        const bool archivo = std::filesystem::is_regular_file(ruta);
+        const std::string antes = archivo ? Contenido(ruta) : std::string();
         modelo().Nombre = "anterior";
         pruebas::GuionDialogos dialogos;
         dialogos.Elegir(titulo, ruta);
         EXPECT_FALSE(AbrirModelo(sesion())) << ruta;
         acta.Fila(nombre, "model '" + modelo().Nombre + "', file '" + modelo().Archivo + "'" +
                               (sesion().ModeloAbiertoAntes ? ", opened before" : ""));
-        EXPECT_EQ(Contenido(ruta), antes);
+        EXPECT_EQ(archivo ? Contenido(ruta) : std::string(), antes);
         EXPECT_EQ(ClaveModelos(), Directorio()) << "the folder is remembered all the same";
     }
     acta.Comparar("comandos/abrir_fallos.txt");

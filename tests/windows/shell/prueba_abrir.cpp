@@ -2,11 +2,8 @@
 
 #include "core/core/archivos.h"
 #include "core/core/configuracion.h"
-#include "core/core/error_ejecucion.h"
 #include "core/core/ini.h"
-#include "core/core/version.h"
 #include "core/files/modelo_archivo.h"
-#include "core/files/proteccion.h"
 #include "soporte/acta.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/modelo_sano.h"
@@ -19,7 +16,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <unistd.h>
 
 namespace vadro {
 namespace {
@@ -51,11 +47,6 @@ protected:
     }
 
     std::string Titulo() const { return principal.windowTitle().toStdString(); }
-    std::vector<std::string> LineasPlanas(const std::string& ruta) {
-        return DividirLineas(TextoPlano(Contenido(ruta)));
-    }
-
-    const std::string tituloFallo = "VADRO PROGRAMADOR: abrir modelo";
 };
 
 TEST_F(Abrir, AModelMadeOutsideOpensAtEjesWithItsCaptionLabelsAndStatus) {
@@ -74,42 +65,6 @@ TEST_F(Abrir, AModelMadeOutsideOpensAtEjesWithItsCaptionLabelsAndStatus) {
     EXPECT_TRUE(Visible(10) && Visible(13));
     EXPECT_TRUE(Habilitado(9));
     EXPECT_FALSE(principal.mnuPermitirSubcriterios->isChecked());
-}
-
-TEST_F(Abrir, SavedUnderAnotherNameTheTextDiffersOnlyInTheRewrittenVersion) {
-    const std::string ruta = ModeloEnDisco("depuradora.vdm");
-    AbrirDesdeBarra(ruta);
-    pruebas::GuionDialogos dialogos;
-    dialogos.Elegir("Guardar modelo como...", Ruta("copia"));
-    principal.mnuGuardarComo->trigger();
-    const std::string copia = Ruta("copia.vdm");
-    EXPECT_EQ(Titulo(), "VADRO PROGRAMADOR - [" + copia + "]");
-    std::vector<std::string> antes = LineasPlanas(ruta);
-    std::vector<std::string> despues = LineasPlanas(copia);
-    ASSERT_EQ(antes.size(), despues.size());
-    int distintas = 0;
-    for (std::size_t i = 0; i < antes.size(); ++i) {
-        if (antes[i] != despues[i]) {
-            ++distintas;
-            EXPECT_EQ(antes[i], "MOD_APL = 0.9.0");
-            EXPECT_EQ(despues[i], "MOD_APL = " + VersionPrograma());
-        }
-    }
-    EXPECT_EQ(distintas, 1);
-}
-
-TEST_F(Abrir, ASecondOpeningAsksAndACancelledDialogLeavesTheModelBlank) {
-    AbrirDesdeBarra(ModeloEnDisco("depuradora.vdm"));
-    const std::string titulo = Titulo();
-    pruebas::GuionDialogos dialogos;
-    dialogos.Cancelar("Abrir modelo");
-    mensajes.Esperar("VADRO PROGRAMADOR",
-                     "Desea guardar los cambios realizados en el modelo actual?", Respuesta::No);
-    principal.mnuAbrir->trigger();
-    EXPECT_EQ(sesion().modelo.Nombre, "");
-    EXPECT_EQ(sesion().modelo.NumRequerimientos, ValorLibre(0));
-    EXPECT_EQ(Titulo(), titulo) << "the windows still show what stood";
-    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
 }
 
 TEST_F(Abrir, TheSecondOpeningReplacesTheDesignWindowsAndFollowsThePermission) {
@@ -147,43 +102,6 @@ TEST_F(Abrir, ExistenteOnTheStartScreenLeadsToTheOpenDialog) {
     EXPECT_EQ(frmInicio::Abierto(), nullptr);
     EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
     EXPECT_EQ(sesion().modelo.Nombre, "Depuradora");
-}
-
-TEST_F(Abrir, BadFilesAreToldAndNothingIsDamaged) {
-    Escribir(Ruta("foto.vdm"), std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
-    std::filesystem::create_directories(Ruta("carpeta.vdm"));
-    pruebas::Acta acta;
-    for (const char* nombre : {"foto.vdm", "no_esta.vdm", "carpeta.vdm"}) {
-        const std::string ruta = Ruta(nombre);
-        const bool archivo = std::filesystem::is_regular_file(ruta);
-        const std::string bytes = archivo ? Contenido(ruta) : std::string();
-        AbrirDesdeBarra(ruta);
-        acta.Fila(nombre, "'" + Titulo() + "', file '" + sesion().modelo.Archivo + "', " +
-                              std::to_string(Hijas().size()) + " windows");
-        EXPECT_EQ(archivo ? Contenido(ruta) : std::string(), bytes);
-    }
-    acta.Comparar("comandos/abrir_fallos_ventana.txt");
-    // The next save asks for a name instead of writing over the file that failed.
-    pruebas::GuionDialogos dialogos;
-    dialogos.Cancelar("Guardar modelo como...");
-    principal.Guardar();
-    EXPECT_EQ(Contenido(Ruta("foto.vdm")).size(), 16u);
-}
-
-TEST_F(Abrir, AFolderWithoutReadPermission) {
-    if (geteuid() == 0) {
-        GTEST_SKIP() << "the superuser reads every folder";
-    }
-    const std::string carpeta = Ruta("cerrada");
-    std::filesystem::create_directories(carpeta);
-    const std::string ruta = UnirRuta(carpeta, "m.vdm");
-    ModeloEnDisco("m.vdm");
-    std::filesystem::rename(Ruta("m.vdm"), ruta);
-    std::filesystem::permissions(carpeta, std::filesystem::perms::none);
-    mensajes.Esperar(tituloFallo, "Error 70 al abrir el modelo: " + DescripcionError(ErrPermiso));
-    AbrirDesdeBarra(ruta);
-    std::filesystem::permissions(carpeta, std::filesystem::perms::owner_all);
-    EXPECT_TRUE(Hijas().empty());
 }
 
 TEST_F(Abrir, PrintingLoadsTheReportOnlyForTheMomentAndSaysItPrintedNothing) {
@@ -290,41 +208,6 @@ TEST_F(Plantillas, EachTemplateGoesOutAndComesBackThroughTheMenu) {
         EXPECT_NO_THROW(Hija(c.ventana)) << "the design window of the tree is loaded";
         sesion().modelo = original;
     }
-}
-
-TEST_F(Plantillas, AnImportWithTheSummaryOpenLoadsNoDesignWindow) {
-    AbrirDesdeBarra(ModeloEnDisco("depuradora.vdm"));
-    pruebas::GuionDialogos dialogos;
-    dialogos.Elegir("Exportar etapas", Ruta("e"));
-    principal.mnuExportarEtapas->trigger();
-    principal.cmdContinuar->click();
-    ASSERT_EQ(Hijas(), Strings{"frmResumen"});
-    dialogos.Elegir("Importar etapas", Ruta("e.tpa"));
-    principal.mnuImportarEtapas->trigger();
-    EXPECT_EQ(Hijas(), Strings{"frmResumen"});
-}
-
-TEST_F(Plantillas, ATemplateOfTheWrongKindIsRefusedThroughTheMenu) {
-    AbrirDesdeBarra(ModeloEnDisco("depuradora.vdm"));
-    pruebas::GuionDialogos dialogos;
-    dialogos.Elegir("Exportar componentes", Ruta("c"));
-    principal.mnuExportarComp->trigger();
-    const Modelo antes = sesion().modelo;
-    dialogos.Elegir("Importar requerimientos", Ruta("c.cmp"));
-    mensajes.Esperar("VADRO: Error.", "Fichero no válido o formato de datos incorrecto.\r\n"
-                                      "No se ha podido cargar el árbol de requerimientos.");
-    principal.mnuImportarR->trigger();
-    EXPECT_EQ(sesion().modelo, antes);
-    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
-}
-
-TEST_F(Plantillas, AVanishedTemplateShowsTheFailureBoundarysMessage) {
-    NuevoModelo();
-    pruebas::GuionDialogos dialogos;
-    dialogos.Elegir("Importar etapas", Ruta("no_esta.tpa"));
-    mensajes.Esperar("VADRO PROGRAMADOR", "53: " + DescripcionError(ErrArchivoNoEncontrado));
-    principal.mnuImportarEtapas->trigger();
-    EXPECT_EQ(Hijas(), Strings{"frmEjes"});
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "ventana_principal.h"
 
 #include "core/core/archivos.h"
-#include "soporte/guion_dialogos.h"
 
 #include <gtest/gtest.h>
 
@@ -49,59 +48,6 @@ TEST_F(Cierre, CancelRefusesTheCloseAndReloadsTheWindowsOfEjes) {
     EXPECT_FALSE(principal.pctFondo->isVisible()) << "the requirements window hides it";
     EXPECT_EQ(sesion().modelo, antes) << "Modificado stays too";
     EXPECT_FALSE(ExisteArchivo(Ruta("planta.vdm")));
-}
-
-TEST_F(Cierre, CancelReloadsTheWindowOfEachPosition) {
-    ModeloModificado(Ruta("planta.vdm"));
-    principal.cmdContinuar->click();
-    EsperarPregunta(Respuesta::Cancelar);
-    EXPECT_FALSE(principal.close());
-    EXPECT_EQ(Situacion(), "Resumen | Posición: resumen | frmResumen");
-
-    UnRequerimiento();
-    ContinuarAceptandoPermisos();
-    EsperarPregunta(Respuesta::Cancelar);
-    EXPECT_FALSE(principal.close());
-    EXPECT_EQ(Situacion(), "Ponderacion | Posición: ponderacion | frmPonderacion");
-}
-
-TEST_F(Cierre, CancelAtTheEmptyDeskBringsNothingBack) {
-    ModeloModificado(Ruta("planta.vdm"));
-    principal.cmdRetroceder->click();
-    EsperarPregunta(Respuesta::Cancelar);
-    EXPECT_FALSE(principal.close());
-    EXPECT_TRUE(Hijas().empty());
-    EXPECT_FALSE(principal.pctPrincipal->isVisible());
-}
-
-TEST_F(Cierre, YesSavesToTheModelFileAndCloses) {
-    const std::string ruta = Ruta("planta.vdm");
-    ModeloModificado(ruta);
-    pruebas::GuionDialogos dialogos; // no dialog for a known file
-    EsperarPregunta(Respuesta::Si);
-    EXPECT_TRUE(principal.close());
-    EXPECT_EQ(NombreGuardadoEn(ruta), "planta");
-    EXPECT_FALSE(sesion().modelo.Modificado);
-}
-
-TEST_F(Cierre, YesOnANeverSavedModelAsksForItsName) {
-    ModeloModificado("");
-    const std::string ruta = Ruta("elegido.vdm");
-    pruebas::GuionDialogos dialogos;
-    dialogos.Elegir("Guardar modelo como...", ruta);
-    EsperarPregunta(Respuesta::Si);
-    EXPECT_TRUE(principal.close());
-    EXPECT_EQ(NombreGuardadoEn(ruta), "planta");
-    EXPECT_EQ(dialogos.Peticiones()[0].filtro, "Archivos de modelo (*.vdm)|*.vdm");
-}
-
-TEST_F(Cierre, NoClosesWithoutSaving) {
-    const std::string ruta = Ruta("planta.vdm");
-    ModeloModificado(ruta);
-    EsperarPregunta(Respuesta::No);
-    EXPECT_TRUE(principal.close());
-    EXPECT_FALSE(ExisteArchivo(ruta));
-    EXPECT_FALSE(principal.Cargado);
 }
 
 TEST_F(Cierre, SalirGoesTheSameWay) {

@@ -1,7 +1,6 @@
 #include "ventana_principal.h"
 
 #include "core/core/archivos.h"
-#include "core/core/version.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/modelo_sano.h"
 #include "windows/core/frmInicio.h"
@@ -19,24 +18,7 @@ namespace {
 using pruebas::Hijo;
 using Strings = std::vector<std::string>;
 
-class Comandos : public pruebas::VentanaPrincipal {
-protected:
-    const std::string tituloNuevo = "VADRO PROGRAMADOR: Nuevo modelo";
-    const std::string preguntaNuevo = "Desea guardar el modelo activo?";
-};
-
-TEST_F(Comandos, NuevoBlanksTheModelAndMarksTheThreeDesignSteps) {
-    Modelo& m = sesion().modelo;
-    m.Nombre = "viejo";
-    principal.MarcarPaso(1, true);
-    principal.MarcarPaso(2, true);
-    NuevoModelo();
-    EXPECT_EQ(m.Nombre, "") << "the whole blanking is the core's";
-    EXPECT_EQ(m.Aplicacion, VersionPrograma());
-    for (int i : {1, 2, 3}) {
-        EsperarPendiente(i);
-    }
-}
+class Comandos : public pruebas::VentanaPrincipal {};
 
 TEST_F(Comandos, NuevoUnloadsEveryOtherWindowBeforeTheProperties) {
     NuevoModelo();
@@ -52,29 +34,9 @@ TEST_F(Comandos, NuevoUnloadsEveryOtherWindowBeforeTheProperties) {
     PulsarBoton("Nuevo");
     EXPECT_EQ(Hijas(), Strings{"frmEjes"}) << "a cancelled dialog leaves the new model in place";
     EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
-}
-
-TEST_F(Comandos, CancelAtTheQuestionOfNuevoChangesNothing) {
-    NuevoModelo();
-    principal.cmdContinuar->click();
-    sesion().modelo.Modificado = true;
-    sesion().modelo.Nombre = "en curso";
-    mensajes.Esperar(tituloNuevo, preguntaNuevo, Respuesta::Cancelar);
-    principal.mnuNuevo->trigger();
-    EXPECT_EQ(sesion().modelo.Nombre, "en curso");
-    EXPECT_EQ(Situacion(), "Resumen | Posición: resumen | frmResumen");
-}
-
-TEST_F(Comandos, YesAtTheQuestionOfNuevoSavesTheModelFirst) {
-    const std::string ruta = Ruta("activo.vdm");
-    sesion().modelo.Modificado = true;
-    sesion().modelo.Nombre = "activo";
-    sesion().modelo.Archivo = ruta;
-    mensajes.Esperar(tituloNuevo, preguntaNuevo, Respuesta::Si);
-    NuevoModelo();
-    EXPECT_EQ(NombreGuardadoEn(ruta), "activo");
-    EXPECT_EQ(sesion().modelo.Nombre, "");
-    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
+    for (int i : {1, 2, 3}) {
+        EsperarPendiente(i);
+    }
 }
 
 TEST_F(Comandos, TheStartScreenLeadsToANewModelAndClosesItself) {
@@ -109,32 +71,6 @@ TEST_F(Comandos, SavingANewModelAsksForANameAndShowsItInTheCaption) {
     sesion().modelo.Nombre = "planta 2";
     PulsarBoton("Guardar"); // a known model file: no dialog
     EXPECT_EQ(NombreGuardadoEn(ruta), "planta 2");
-}
-
-TEST_F(Comandos, AModelFromACompiledFileIsNeverSavedOverIt) {
-    NuevoModelo();
-    const std::string compilado = Ruta("planta.vdc");
-    sesion().modelo.Archivo = compilado;
-    pruebas::GuionDialogos dialogos;
-    dialogos.Elegir("Guardar modelo como...", Ruta("planta.vdm"));
-    principal.mnuGuardar->trigger();
-    EXPECT_FALSE(ExisteArchivo(compilado));
-    EXPECT_EQ(dialogos.Peticiones()[0].nombreArchivo, "planta.vdc");
-    EXPECT_EQ(sesion().modelo.Archivo, Ruta("planta.vdm"));
-}
-
-TEST_F(Comandos, SaveAsAlwaysAsksAndKeepsTheCaptionWhenCancelled) {
-    NuevoModelo();
-    sesion().modelo.Archivo = Ruta("a.vdm");
-    pruebas::GuionDialogos dialogos;
-    dialogos.Cancelar("Guardar modelo como...");
-    dialogos.Elegir("Guardar modelo como...", Ruta("b.vdm"));
-    principal.mnuGuardarComo->trigger();
-    EXPECT_EQ(principal.windowTitle().toStdString(), "VADRO PROGRAMADOR - [...]");
-    principal.mnuGuardarComo->trigger();
-    EXPECT_EQ(principal.windowTitle().toStdString(), "VADRO PROGRAMADOR - [" + Ruta("b.vdm") + "]");
-    EXPECT_TRUE(ExisteArchivo(Ruta("b.vdm")));
-    EXPECT_FALSE(ExisteArchivo(Ruta("a.vdm")));
 }
 
 TEST_F(Comandos, CompilingFromTheToolbarWorksAtEveryPosition) {

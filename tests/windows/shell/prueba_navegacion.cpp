@@ -166,35 +166,21 @@ constexpr const char* kEjes = "Posición: ejes";
 constexpr const char* kR = "frmRequerimientos";
 constexpr const char* kC = "frmComponentes";
 
+// One key of each way; which window and step every key word reaches, from every step, is the
+// core's table of the way to a finding.
 INSTANTIATE_TEST_SUITE_P(
-    CadaPalabra, NavegacionPorClave,
+    CadaCamino, NavegacionPorClave,
     ::testing::Values(
         // A repeated name: the second of the pair, its label in edit for a rename at once.
-        Caso{"ReqRep I2S1C2R2", Posicion::Resumen, kReq, kEjes, kR, "I2S1C2R2 RUIDO", "RUIDO"},
         Caso{"ReqRep I2S1C2R2", Posicion::Ejes,
              Strings{"frmEjes", "frmCompilacion", "frmRequerimientos"}, kEjes, kR, "I2S1C2R2 RUIDO",
              "RUIDO"},
-        // Too few children: the node selected and nothing in edit.
-        Caso{"SinHij C1R2", Posicion::Informe, kReq, kEjes, kR, "C1R2 Empleo", ""},
-        Caso{"SinHij C2R2", Posicion::Ponderacion, kReq, kEjes, kR, "C2R2 Seguridad", ""},
-        // Components: a component by its key; an option's key names no node of the tree, and
-        // the node of the last index stands for it.
-        Caso{"CmpRep Co2", Posicion::Resumen, kCmp, kEjes, kC, "Co2 ESTRUCTURA", "ESTRUCTURA"},
+        // An option's key names no node of the tree: the node of the last index stands for it.
         Caso{"CmpRep Op2Co1", Posicion::Informe, kCmp, kEjes, kC, "Co2 ESTRUCTURA", "ESTRUCTURA"},
-        Caso{"SinEta", Posicion::Resumen, Strings{"frmCompilacion", "frmEjes", "frmEtapas"}, kEjes,
-             nullptr, "", ""},
         // A node without weight: the overview, at its step, over the report.
-        Caso{"PesNul R2", Posicion::Resumen, Strings{"frmCompilacion", "frmPonderacion"},
-             "Posición: ponderacion", nullptr, "", ""},
-        Caso{"PesNul R2", Posicion::Ejes, Strings{"frmCompilacion", "frmPonderacion"},
-             "Posición: ponderacion", nullptr, "", ""},
         Caso{"PesNul R2", Posicion::Informe, Strings{"frmCompilacion", "frmPonderacion"},
              "Posición: ponderacion", nullptr, "", ""},
         // A matrix: the windows in the way close, the user stays in the report.
-        Caso{"NoCons CR1", Posicion::Resumen, Strings{"frmCompilacion"}, "Posición: resumen",
-             nullptr, "", ""},
-        Caso{"NoCons CR1", Posicion::Ponderacion, Strings{"frmCompilacion"},
-             "Posición: ponderacion", nullptr, "", ""},
         Caso{"NoCons CR1", Posicion::Informe, Strings{"frmInforme", "frmCompilacion"},
              "Posición: informe", nullptr, "", ""}));
 
@@ -222,68 +208,6 @@ TEST_F(Navegacion, AValueFunctionFindingOpensTheEditorOnTheIndicatorOverItsTree)
     DobleClic("FunVal I1C2R1");
     EXPECT_EQ(modales.Vistas().back(), QStringLiteral("frmFuncionValor"));
     EXPECT_EQ(Activa(), kR);
-}
-
-TEST_F(Navegacion, AnIndicatorOfASubcriterionOpensItsOwnFunction) {
-    CompilarEn(Posicion::Informe);
-    sesion().MostrarAvisoFuncionValor = false;
-    mensajes.Esperar("VADRO",
-                     "Se perderán los últimos valores introducidos. Está seguro que quiere "
-                     "cerrar la ventana?",
-                     Respuesta::Si);
-    modales.Esperar(QStringLiteral("frmFuncionValor"), [this](QDialog& editor) {
-        EXPECT_EQ(editor.windowTitle().toStdString(),
-                  "Definición de la función de valor - [RUIDO]");
-        EXPECT_EQ(Seleccionado(kR), "I2S1C2R2 RUIDO");
-        auto* r = dynamic_cast<frmRequerimientos*>(Hija(kR));
-        EXPECT_EQ(r->Edicion().TitulosMarcos[2], "Subcriterios del criterio 2");
-        EXPECT_EQ(sesion().NodoEdicionActual, *r->Edicion().tvwArbol.Seleccionado()->Tag());
-        Hijo<QPushButton>(editor, "cmdCancelar")->click();
-    });
-    DobleClic("FunVal I2S1C2R2");
-    EXPECT_EQ(Hijas(), kReq) << "the report window of the step is gone";
-}
-
-TEST_F(Navegacion, LinesWithoutAKeyDoNothingAtAll) {
-    CompilarEn(Posicion::Resumen);
-    const QListWidget* claves = Informe().lstClaves;
-    int probadas = 0;
-    for (int i = 0; i < claves->count(); ++i) {
-        if (!claves->item(i)->text().isEmpty()) {
-            continue;
-        }
-        DobleClicFila(i);
-        ++probadas;
-        ASSERT_EQ(Hijas(), (Strings{"frmResumen", "frmCompilacion"})) << "row " << i;
-        EXPECT_EQ(Estado(), "Posición: resumen");
-    }
-    EXPECT_GT(probadas, 30) << "totals, headings, levels, all-clears and blanks";
-}
-
-TEST_F(Navegacion, MissingStagesComponentsAndRequirementsOpenTheirWindows) {
-    Modelo sinComponentes = pruebas::ModeloCorrecto();
-    sinComponentes.NumComponentes = 0;
-    sinComponentes.Componentes.Borrar();
-    sinComponentes.NumEtapas = "";
-    CompilarEn(Posicion::Informe, sinComponentes);
-    DobleClic("SinCmp");
-    EXPECT_EQ(Hijas(), kCmp);
-    EXPECT_EQ(Estado(), kEjes);
-    EXPECT_EQ(Seleccionado(kC), "") << "an empty tree has nothing to select";
-
-    // The components window goes by its own closing, which asks before it drops the tree.
-    const std::string descartar =
-        "Está seguro que quiere descartar los cambios realizados en el árbol de componentes?";
-    mensajes.Esperar("VADRO PROGRAMADOR: cerrar componentes", descartar, Respuesta::Si);
-    DobleClic("SinEta");
-    EXPECT_EQ(Hijas(), (Strings{"frmCompilacion", "frmEjes", "frmEtapas"}));
-
-    // No line says so after a compile, which refuses a model without requirements; the way is
-    // there all the same.
-    principal.IrAError(QStringLiteral("SinReq"));
-    EXPECT_EQ(Hijas(), kReq);
-    EXPECT_EQ(Seleccionado(kR), "M Modelo ") << "the window's own first selection";
-    EXPECT_EQ(EnEdicion(kR), "");
 }
 
 TEST_F(Navegacion, ARefusedCloseStopsTheWayAndLeavesEverythingAsItStood) {
