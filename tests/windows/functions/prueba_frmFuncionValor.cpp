@@ -6,17 +6,14 @@
 #include "soporte/volcado_ventana.h"
 #include "windows/functions/arriba_abajo.h"
 #include "windows/functions/frmFuncionValor.h"
-#include "windows/functions/panel_puntuacion.h"
 
 #include <QAbstractItemModelTester>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTabBar>
 #include <QTableView>
 #include <QTest>
 #include <QToolButton>
@@ -29,8 +26,6 @@ namespace vadro {
 namespace {
 
 using pruebas::Hijo;
-
-const std::string kTituloFuncion = "VADRO: función de valor";
 
 class VentanaFuncion : public pruebas::PruebaSesion {
 protected:
@@ -139,42 +134,6 @@ TEST_F(VentanaFuncion, CBoundsWithEmptyAndNarrowLimitsLettersInKAndTheRecordWrit
     EXPECT_TRUE(sesion().modelo.Modificado);
 }
 
-TEST_F(VentanaFuncion, ConcaveOnADecreasingFunctionAndTheSwappedCaptions) {
-    FuncionValor f = pruebas::Continua();
-    f.RMin = 100.0;
-    f.RMax = 0.0;
-    f.XMin = ValorLibre();
-    f.XMax = ValorLibre();
-    Abrir(f);
-    EXPECT_EQ(Etiqueta("lblMinimo"), QStringLiteral("0 m"));
-    EXPECT_EQ(Etiqueta("lblMaximo"), QStringLiteral("100 m"));
-    const int dibujos = ventana->editor.Dibujos;
-    QTest::mouseClick(ventana->cmdFuncion[2], Qt::LeftButton);
-    EXPECT_EQ(ventana->editor.Dibujos, dibujos + 1) << "one drawing for the three inputs";
-    EXPECT_EQ(Entrada("txtC")->text(), QStringLiteral("20"));
-    EXPECT_EQ(Entrada("txtK")->text(), QStringLiteral("0.3"));
-    EXPECT_EQ(Entrada("txtP")->text(), QStringLiteral("5"));
-    Aceptar();
-    EXPECT_EQ(Registro().C, ValorLibre(20.0));
-    EXPECT_EQ(Registro().P, ValorLibre(5.0));
-}
-
-TEST_F(VentanaFuncion, AnUpperLimitOpenAboveAStepEndingOpenIsRefusedAndEmptied) {
-    FuncionValor f = pruebas::DeEscalones<FuncionValor>();
-    f.XMax = ValorLibre();
-    f.Escalones(3).ValorFinal = "<100";
-    f.RMax = 100.0;
-    Abrir(f);
-    Escribir("txtMax", QStringLiteral(">100"));
-    mensajes.Esperar("VADRO: error en límite superior",
-                     "Los símbolos de intervalo del límite superior y el del valor final del "
-                     "último intervalo no son consecuentes\ny dejan discontinuidades o "
-                     "soluciones múltiples.\nCorríjalo o deje vacío su valor.");
-    QTest::keyClick(Entrada("txtMax"), Qt::Key_Return);
-    EXPECT_EQ(Entrada("txtMax")->text(), QString());
-    EXPECT_TRUE(Entrada("txtMax")->hasFocus()) << "the focus goes back to the limit";
-}
-
 TEST_F(VentanaFuncion, AThreeRowStepFunctionIsTypedAndAccepted) {
     Abrir(FuncionValor{});
     ElegirTipo(kTipoEscalon);
@@ -212,47 +171,6 @@ TEST_F(VentanaFuncion, AThreeRowStepFunctionIsTypedAndAccepted) {
     EXPECT_EQ(f.XMax, ValorLibre(">30"));
     EXPECT_EQ(f.RMin, ValorLibre(0.0)) << "the reference limits follow the outer steps";
     EXPECT_EQ(f.RMax, ValorLibre(30.0));
-}
-
-TEST_F(VentanaFuncion, StepCellsRefuseASecondStartAtAClosedEndAndAHalfInTheFirstRow) {
-    FuncionValor f;
-    f.Tipo = FuncionEscalon;
-    f.Escalones.Redimensionar(2);
-    f.Escalones(1) = {"=0", "=10", 0.0};
-    f.Escalones(2) = {"", "<20", 1.0};
-    Abrir(f);
-    mensajes.Esperar(kTituloFuncion,
-                     "El símbolo del valor inicial del intervalo (abierto o cerrado) no es "
-                     "consecuente con el símbolo del valor final del intervalo anterior.");
-    mensajes.Esperar(kTituloFuncion, "Se mantendrá el valor existente anteriormente.");
-    Celda(2, 1, QStringLiteral("=10"));
-    EXPECT_EQ(TextoCelda(2, 1), QString());
-    EXPECT_FALSE(ventana->txtValor->isVisible());
-    Celda(2, 1, QStringLiteral(">10"));
-    EXPECT_EQ(TextoCelda(2, 1), QStringLiteral(">10"));
-
-    mensajes.Esperar(kTituloFuncion, "El valor inicial del primer intervalo tiene que ser 0 o 1.");
-    Celda(1, 3, QStringLiteral("0.5"), Qt::Key_Down);
-    EXPECT_TRUE(ventana->txtValor->isVisible()) << "the arrow keeps the refused input open";
-    QTest::keyClick(ventana->txtValor, Qt::Key_Escape);
-    EXPECT_FALSE(ventana->txtValor->isVisible());
-    EXPECT_EQ(TextoCelda(1, 3), QStringLiteral("0"));
-    EXPECT_TRUE(ventana->isVisible()) << "Escape closed the input, not the window";
-}
-
-TEST_F(VentanaFuncion, AOneRowStepFunctionIsRefusedAtAcceptance) {
-    FuncionValor f;
-    f.Tipo = FuncionEscalon;
-    f.Escalones.Redimensionar(1);
-    f.Escalones(1) = {"=0", "=10", 1.0};
-    Abrir(f);
-    mensajes.Esperar("VADRO: error",
-                     "La función escalón debe de tener al menos un mínimo en 0 y un máximo en 1");
-    Aceptar();
-    EXPECT_TRUE(ventana->isVisible());
-    EXPECT_EQ(ventana->grdIntervalos->currentIndex().row(), 0);
-    EXPECT_EQ(ventana->grdIntervalos->currentIndex().column(), 3);
-    EXPECT_EQ(Registro(), f) << "nothing written";
 }
 
 TEST_F(VentanaFuncion, ReducingTheCountAsksThroughTheConfirmation) {
@@ -310,37 +228,6 @@ TEST_F(VentanaFuncion, AStepFunctionSavedAsATemplateComesBack) {
     esperada.K = 0.5;
     esperada.P = 2.0;
     EXPECT_EQ(Registro(), esperada);
-}
-
-TEST_F(VentanaFuncion, TheClosingQuestionKeepsTheWindowOnNoAndCancelRestoresTheFlag) {
-    Abrir(pruebas::Continua());
-    Escribir("txtK", QStringLiteral("0.7"));
-    EXPECT_TRUE(sesion().modelo.Modificado);
-    const std::string pregunta = "Se perderán los últimos valores introducidos. Está seguro que "
-                                 "quiere cerrar la ventana?";
-    mensajes.Esperar("VADRO", pregunta, Respuesta::No);
-    QTest::mouseClick(ventana->cmdCancelar, Qt::LeftButton);
-    EXPECT_TRUE(ventana->isVisible());
-    EXPECT_FALSE(sesion().modelo.Modificado) << "restored all the same";
-    mensajes.Esperar("VADRO", pregunta, Respuesta::Si);
-    ventana->close();
-    EXPECT_FALSE(ventana->isVisible());
-    EXPECT_EQ(Registro().K, ValorLibre(0.5));
-}
-
-TEST_F(VentanaFuncion, ScoringWithoutElementsIsStoredAsContinuous) {
-    FuncionValor f = pruebas::DePuntuacion();
-    f.Puntuaciones.Borrar();
-    Abrir(f);
-    EXPECT_EQ(ventana->cbbTipoFuncionPrimaria->currentText().toStdString(), "Puntuación");
-    ventana->tspSeleccion->tabBarClicked(1);
-    EXPECT_TRUE(ventana->pctTablas->isVisible());
-    EXPECT_FALSE(ventana->pctFondoGrafica->isVisible());
-    mensajes.Esperar("VADRO: error",
-                     "La función definida como función de puntuación, no tiene elementos "
-                     "numéricos ni booleanos. Se guardará cómo función contínua.");
-    Aceptar();
-    EXPECT_EQ(Registro().Tipo, FuncionContinua);
 }
 
 TEST_F(VentanaFuncion, EditarFuncionOpensModallyOnTheRowAndTellsWhetherItWasAccepted) {

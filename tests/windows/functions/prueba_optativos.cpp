@@ -37,7 +37,6 @@ using pruebas::Hijo;
 
 const std::string kTitulo = "VADRO PROGRAMADOR";
 const std::string kSeleccione = "Seleccione primero un indicador en la tabla de indicadores.";
-const std::string kSinOptativos = "Introduzca primero el número de elementos optativos deseado.";
 
 // One click on an up-down control.
 void Flecha(ArribaAbajo* control, bool arriba) {
@@ -252,48 +251,6 @@ TEST_F(Optativos, ThreeIndicatorsTwoSelectableEachWithItsFunctionSavedAndReadBac
     EXPECT_EQ(leido.Requerimientos(1).Criterios(1).Indicadores(1).Funcion, guardada);
 }
 
-TEST_F(Optativos, TheCountKeepsItsRowsWhenTheReductionIsDeclinedAndAZeroCountSaysSo) {
-    Abrir(pruebas::DeOptativos("I1C1R1"));
-    EXPECT_TRUE(ventana->chkOptativos->isChecked());
-    EXPECT_EQ(Panel().lblOptativos->text(), QStringLiteral("2"));
-    EXPECT_EQ(Panel().lblSeleccionables->text(), QStringLiteral("1"));
-    EXPECT_EQ(Texto(Panel().grdOptativos, 2, 0), QStringLiteral("Presión"));
-    pruebas::GuionModales modales;
-    modales.Esperar(QStringLiteral("frmConfirmacion"),
-                    [](QDialog& d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
-    Flecha(Panel().updOptativos, false);
-    EXPECT_EQ(Panel().lblOptativos->text(), QStringLiteral("2"));
-    EXPECT_EQ(Panel().grdOptativos->model()->rowCount(), 2);
-    EXPECT_EQ(sesion().FuncionesEdicion.Tamano(), 2);
-
-    Elegir(2);
-    const QModelIndex elegida = Panel().grdOptativos->model()->index(1, 0);
-    EXPECT_EQ(elegida.data(Qt::BackgroundRole).value<QBrush>().color(), QColor(255, 192, 192));
-    EXPECT_EQ(
-        Panel().grdOptativos->model()->index(0, 0).data(Qt::BackgroundRole).value<QBrush>().color(),
-        QColor(Qt::white));
-    EXPECT_FALSE(ventana->editor.GraficaOptativo.Visibles().empty()) << "the step function";
-
-    for (int i = 0; i < 2; ++i) {
-        modales.Esperar(QStringLiteral("frmConfirmacion"),
-                        [](QDialog& d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
-        Flecha(Panel().updOptativos, false);
-    }
-    EXPECT_EQ(Panel().lblOptativos->text(), QStringLiteral("0"));
-    EXPECT_EQ(Panel().lblSeleccionables->text(), QStringLiteral("0"));
-    EXPECT_EQ(Texto(Panel().grdOptativos, 1, 0), QStringLiteral(" -"));
-    EXPECT_TRUE(ventana->editor.GraficaOptativo.Visibles().empty());
-    mensajes.Esperar(kTitulo, kSinOptativos);
-    DobleClickGrafica();
-    mensajes.Esperar(kTitulo, kSinOptativos);
-    QTest::keyClick(Panel().grdOptativos, Qt::Key_A);
-    EXPECT_FALSE(Panel().txtValorOpt->isVisible());
-    Aceptar();
-    ASSERT_EQ(Registro().Optativos.Tamano(), 1);
-    EXPECT_EQ(Registro().Optativos(1), IndicadorOptativo{}) << "none kept as one without name";
-    EXPECT_EQ(Registro().OptativoSeleccionado, 0);
-}
-
 TEST_F(Optativos, TheSecondWindowCancelledLeavesTheRowsFunctionAsItWas) {
     Abrir(pruebas::DeOptativos("I1C1R1"));
     const FuncionOptativo antes = sesion().FuncionesEdicion(1);
@@ -378,28 +335,6 @@ TEST_F(Optativos, TwoBooleansAndANumericWithItsMinimumAboveItsMaximumAreStored) 
     EXPECT_EQ(f.Puntuaciones(3),
               (Puntuacion{PuntuacionNumerica, "Antigüedad", 10.0, 5.0, -1.0, 3.0}));
     EXPECT_EQ(f.C, ValorLibre(50.0)) << "the continuous part as it stood";
-}
-
-TEST_F(Optativos, AScoringFunctionLeftWithoutElementsBecomesContinuousAfterOk) {
-    Abrir(pruebas::DePuntuacion());
-    ClickPestana(*ventana, 1);
-    EXPECT_EQ(Tablas().lblNumericos->text(), QStringLiteral("1"));
-    EXPECT_EQ(Texto(Tablas().grdNumericos, 1, 1), QStringLiteral("Años"));
-    pruebas::GuionModales modales;
-    for (ArribaAbajo* control : {Tablas().updBooleanos, Tablas().updNumericos}) {
-        modales.Esperar(QStringLiteral("frmConfirmacion"),
-                        [](QDialog& d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
-        Flecha(control, false);
-    }
-    EXPECT_EQ(Texto(Tablas().grdNumericos, 1, 2), QStringLiteral(" -"));
-    mensajes.Esperar("VADRO: error",
-                     "La función definida como función de puntuación, no tiene elementos "
-                     "numéricos ni booleanos. Se guardará cómo función contínua.",
-                     Respuesta::Aceptar);
-    Aceptar();
-    EXPECT_FALSE(ventana->isVisible());
-    EXPECT_EQ(Registro().Tipo, FuncionContinua);
-    EXPECT_EQ(ventana->cbbTipoFuncionPrimaria->currentText(), QStringLiteral("Continua"));
 }
 
 TEST_F(Optativos, OneDumpPerPanel) {
