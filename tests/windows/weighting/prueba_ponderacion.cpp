@@ -70,7 +70,7 @@ protected:
     std::unique_ptr<frmPonderacion> ventana;
 };
 
-TEST_F(Ponderacion, TheTreeWithSubcriteriaMergesEachParentOverItsDescendants) {
+TEST_F(Ponderacion, TheAdapterMergesEachParentOverItsDescendants) {
     QTableView& g = *Abrir().grdRequerimientos;
     ASSERT_EQ(g.model()->columnCount(), 4);
     ASSERT_EQ(g.model()->rowCount(), 7);
@@ -88,57 +88,10 @@ TEST_F(Ponderacion, TheTreeWithSubcriteriaMergesEachParentOverItsDescendants) {
         EXPECT_EQ(g.rowSpan(u.fila, u.columna), u.filas) << u.fila << "," << u.columna;
         EXPECT_EQ(g.columnSpan(u.fila, u.columna), 1);
     }
+    // What each cell shows, colours and selects is the core's table of the overview.
     EXPECT_EQ(Celda(g, 0, 3), "(I1S1C1R1) Hormigón\nPeso: 25.00 %");
-    EXPECT_EQ(Celda(g, 5, 1), "(C3R1) Riesgo") << "no weight, no second line";
-    EXPECT_EQ(Celda(g, 4, 2), "");
-    EXPECT_EQ(Colores(1).substr(3), "bbrb") << "C2 over two rows, then C3 light red, R2 empty";
     EXPECT_EQ(Colores(3), "bbbbrbb");
-    EXPECT_EQ(g.model()->index(0, 0).data(Qt::TextAlignmentRole).value<Qt::Alignment>(),
-              Qt::Alignment(Qt::AlignCenter));
-    ASSERT_EQ(sesion().FilasPonderacion.size(), 7u);
-    EXPECT_EQ(sesion().FilasPonderacion[3], (std::array<int16_t, 5>{4, 1, 2, -1, 1}));
-    EXPECT_EQ(sesion().FilasPonderacion[6], (std::array<int16_t, 5>{7, 2, -1, -1, -1}));
-    // What a node finally counts for, along its path.
     EXPECT_EQ(Ayuda(0, 3), "Peso global: 3.00 %");
-    EXPECT_EQ(Ayuda(3, 3), "Peso global: 9.00 %");
-    EXPECT_EQ(Ayuda(4, 3), "");
-    EXPECT_EQ(Ayuda(0, 2), "Peso global: 12.00 %");
-}
-
-TEST_F(Ponderacion, WithoutSubcriteriaTheGridHasThreeColumns) {
-    sesion().modelo = pruebas::ModeloCorrecto();
-    pruebas::PonerClaves(sesion().modelo);
-    QTableView& g = *Abrir().grdRequerimientos;
-    ASSERT_EQ(g.model()->columnCount(), 3);
-    EXPECT_EQ(g.model()->headerData(2, Qt::Horizontal).toString().toStdString(), "Indicadores");
-    EXPECT_EQ(g.rowSpan(0, 0), 4);
-    EXPECT_EQ(g.rowSpan(4, 1), 2);
-    EXPECT_EQ(Celda(g, 7, 2), "(I2C2R2) Plazo\nPeso: 50.00 %");
-    EXPECT_EQ(Ayuda(7, 2), "Peso global: 12.50 %");
-    Pulsar(7, 2);
-    EXPECT_EQ(Colores(2), "bbbbbbmm");
-}
-
-TEST_F(Ponderacion, AClickPaintsTheSetNavyAndAnIncompleteBranchIsTold) {
-    Abrir();
-    Pulsar(1, 3);
-    EXPECT_EQ(Colores(3), "mmbbrbb");
-    EXPECT_EQ(Rejilla().model()->index(0, 3).data(Qt::ForegroundRole).value<QColor>(),
-              ventana->palette().color(QPalette::Window));
-    Pulsar(3, 2); // a criterion's own indicators, under the empty subcriteria cell
-    EXPECT_EQ(Colores(3), "bbbmmbb") << "the former set is repainted by its weights";
-    EXPECT_EQ(Colores(2), "bbbbbbb");
-    Pulsar(5, 1);
-    EXPECT_EQ(Colores(3), "bbbbrbb");
-    EXPECT_EQ(Colores(1), "mmmmmmb");
-
-    mensajes.Esperar(kTitulo, "Esta rama del árbol no está completa. Solucione el problema en la "
-                              "ventana de diseño del árbol de requerimientos.");
-    Pulsar(2, 3);
-    EXPECT_EQ(Colores(1), "mmmmmmb") << "the selection stays";
-    Pulsar(0, 0);
-    EXPECT_EQ(Colores(0), "mmmmmmm");
-    EXPECT_EQ(Colores(1), "bbbbbrb");
 }
 
 TEST_F(Ponderacion, ADoubleClickWeighsTheSetAndItsCellsComeBackWithTheirWeights) {
@@ -226,12 +179,6 @@ TEST_F(PonderacionVacia, NoGoesToTheReport) {
     HastaLosPesos(Respuesta::No);
     EXPECT_EQ(Situacion(), "Informe | Posición: informe | frmInforme");
     EsperarAjusteB();
-}
-
-TEST_F(PonderacionVacia, YesGoesBackToTheDesign) {
-    HastaLosPesos(Respuesta::Si);
-    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
-    EsperarAjusteA();
 }
 
 } // namespace
