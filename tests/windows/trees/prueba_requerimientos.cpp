@@ -1,7 +1,6 @@
 #include "ventana_arbol.h"
 
 #include "core/shell/herramientas.h"
-#include "soporte/acta.h"
 #include "soporte/datos.h"
 #include "soporte/modelo_sano.h"
 #include "soporte/volcado_ventana.h"
@@ -23,10 +22,6 @@ namespace {
 using namespace pruebas;
 using Requerimientos = VentanaArbol;
 using Strings = std::vector<std::string>;
-
-const std::string kEliminarNodo = "VADRO PROGRAMADOR: eliminar nodo";
-const std::string kPreguntaEliminar =
-    "El elemento selecionado tiene uno o más subnodos. Está seguro que quiere eliminarlo?";
 
 void Teclear(QLineEdit* campo, const char* texto) {
     campo->selectAll();
@@ -124,36 +119,6 @@ TEST_F(Requerimientos, AModelBuiltThroughTheWindowsIsWhatTheFileHolds) {
     EXPECT_EQ(texto.str(), Datos("arboles/modelo_propio.txt", texto.str()));
 }
 
-// The entries of the tree's menu by the node under it, with the caption of its deletion; after
-// a copy of an indicator, paste is on only where an indicator may go.
-TEST_F(Requerimientos, TheMenuFollowsTheLevelAndPasteFollowsTheClipboard) {
-    NuevoModelo();
-    sesion().modelo = ModeloCon({Requerimiento(
-        "A", {Criterio("C1", {Indicador("i1")}),
-              Criterio("C2", {}, {Subcriterio("S", {Indicador("j")})}), Criterio("C3", {})})});
-    QWidget* r = AbrirPaso(1, "frmRequerimientos");
-    Acta acta;
-    const auto menu = [&](const std::string& cuando, const char* clave) {
-        QMenu* entradas = MenuSobre(r, clave, "mnuArbolR");
-        const QAction* eliminar = Hijo<QAction>(*entradas, "mnuEliminar");
-        acta.Fila(cuando + "'" + clave + "'",
-                  Entradas(*entradas) +
-                      (eliminar->isVisible() ? ", " + ACadena(eliminar->text()) : std::string()));
-        entradas->hide();
-    };
-    for (const char* clave : {"", "M", "R1", "C1R1", "C2R1", "C3R1", "S1C2R1", "I1C1R1"}) {
-        menu("", clave);
-    }
-    Clic(r, "I1C1R1");
-    QTest::keyClick(Arbol(r), Qt::Key_C, Qt::ControlModifier);
-    for (const char* clave : {"M", "R1", "C2R1", "C1R1", "C3R1", "S1C2R1"}) {
-        menu("an indicator copied, ", clave);
-    }
-    acta.Comparar("arboles/menu_requerimientos.txt");
-    Elegir(*MenuSobre(r, "S1C2R1", "mnuArbolR"), "mnuPegar");
-    EXPECT_EQ(Mostrado(r), "Modelo [A[C1[i1],C2[S[j,i1]],C3]]");
-}
-
 TEST_F(Requerimientos, DraggingACriterionToAnotherRequirementAsksAndLosesTheWeights) {
     NuevoModelo();
     sesion().modelo = ModeloCorrecto();
@@ -185,33 +150,6 @@ TEST_F(Requerimientos, DraggingACriterionToAnotherRequirementAsksAndLosesTheWeig
     EXPECT_TRUE(m.Requerimientos(1).Criterios(1).Peso.EsVacio()) << "the old set loses them too";
     EXPECT_FALSE(m.Requerimientos(2).Criterios(3).Indicadores(1).Peso.EsVacio())
         << "the moved criterion's own indicators keep theirs";
-}
-
-TEST_F(Requerimientos, TheSelectorsDownArrowRemovesTheNodeItShowsAndTypingRenames) {
-    NuevoModelo();
-    sesion().modelo = ModeloCorrecto();
-    QWidget* r = AbrirPaso(1, "frmRequerimientos");
-    Clic(r, "C1R2");
-    EXPECT_EQ(Marco(r, 2)->title().toStdString(), "Criterios del requerimiento 2");
-    EXPECT_EQ(Marco(r, 2)->cbbNodos->currentText().toStdString(), "Empleo");
-    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::Si);
-    Flecha(r, 2, false);
-    EXPECT_EQ(Mostrado(r), "Modelo [Económico[Inversión[Coste,Plazo],Explotación[Coste,Plazo]],"
-                           "Social[Seguridad[Coste,Plazo]]]");
-    EXPECT_EQ(Marco(r, 2)->lblNumNodos->text().toStdString(), "1");
-    EXPECT_EQ(Marco(r, 2)->cbbNodos->currentText().toStdString(), "Seguridad");
-    Teclear(Marco(r, 1)->cbbNodos->lineEdit(), "Sociedad");
-    EXPECT_EQ(Mostrado(r), "Modelo [Económico[Inversión[Coste,Plazo],Explotación[Coste,Plazo]],"
-                           "Sociedad[Seguridad[Coste,Plazo]]]");
-    QTest::keyClick(Arbol(r), Qt::Key_Down);
-    EXPECT_EQ(Marco(r, 4)->title().toStdString(), "Indicadores del criterio 1");
-    EXPECT_FALSE(Hijo<QPushButton>(*r, "cmdFuncion")->isEnabled()) << "a criterion is in hand";
-    QTest::keyClick(Arbol(r), Qt::Key_Down);
-    EXPECT_TRUE(Hijo<QPushButton>(*r, "cmdFuncion")->isEnabled()) << "an indicator is in hand";
-    QTest::keyClick(Arbol(r), Qt::Key_Delete); // a leaf goes without a question
-    EXPECT_EQ(Mostrado(r), "Modelo [Económico[Inversión[Coste,Plazo],Explotación[Coste,Plazo]],"
-                           "Sociedad[Seguridad[Plazo]]]");
-    EXPECT_EQ(Marco(r, 4)->cbbNodos->currentText().toStdString(), "Plazo");
 }
 
 TEST_F(Requerimientos, ClosingDiscardsWithoutAQuestionAndTheDumpShowsTheWindow) {
