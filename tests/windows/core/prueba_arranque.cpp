@@ -51,9 +51,6 @@ TEST_F(Arranque_, AFirstStartRunsEveryStepInItsOrder) {
     EXPECT_EQ(pasos, (std::vector<std::string>{"esperar 3", "aviso", "inicio"}));
     EXPECT_EQ(arranque.Splash(), nullptr) << "the splash is unloaded at the end";
     EXPECT_EQ(arranque.Principal()->windowTitle(), QStringLiteral("VADRO PROGRAMADOR"));
-    EXPECT_EQ(Contenido(Ruta("Config.ini")),
-              "[GENERAL]\r\nMOSTRAR_INICIO=Verdadero\r\n"
-              "MOSTRAR_AVISO_BETA=Verdadero\r\nTAMA\xD1O_FUENTE=0\r\n");
     EXPECT_FALSE(sesion().configuracion.ModoLineaComandos);
 }
 

@@ -3,8 +3,6 @@
 #include "core/core/archivos.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/modelo_sano.h"
-#include "windows/core/frmInicio.h"
-#include "windows/core/modal.h"
 
 #include <QMenu>
 #include <QPushButton>
@@ -37,18 +35,6 @@ TEST_F(Comandos, NuevoUnloadsEveryOtherWindowBeforeTheProperties) {
     for (int i : {1, 2, 3}) {
         EsperarPendiente(i);
     }
-}
-
-TEST_F(Comandos, TheStartScreenLeadsToANewModelAndClosesItself) {
-    modales.Esperar(QStringLiteral("frmInicio"), [](QDialog& inicio) {
-        Hijo<QPushButton>(inicio, "cmdNuevo")->click();
-        EXPECT_FALSE(inicio.isVisible());
-    });
-    modales.Esperar(QStringLiteral("frmPropiedades"), [](QDialog& d) { d.accept(); });
-    frmInicio inicio([this] { principal.Nuevo(); }, [this] { principal.Abrir(); }, &principal);
-    MostrarModal(inicio);
-    EXPECT_EQ(frmInicio::Abierto(), nullptr);
-    EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
 }
 
 TEST_F(Comandos, SavingANewModelAsksForANameAndShowsItInTheCaption) {

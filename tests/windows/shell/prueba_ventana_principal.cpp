@@ -29,29 +29,6 @@ TEST_F(VentanaPrincipal_, TheWidgetTreeBeforeAModelAndAtEjes) {
     pruebas::CompararVolcado(principal, "frmPrincipal_ejes");
 }
 
-TEST_F(VentanaPrincipal_, TheToolbarButtonsByPlaceAndKey) {
-    const Strings claves = {"Nuevo",
-                            "Abrir",
-                            "Guardar",
-                            "Imprimir",
-                            "",
-                            "Compilar",
-                            "",
-                            "Retroceder",
-                            "Continuar",
-                            "",
-                            "Requerimientos",
-                            "Alternativas",
-                            "Tiempo"};
-    ASSERT_EQ(principal.tlbPrincipal->actions().size(), static_cast<qsizetype>(claves.size()));
-    for (std::size_t i = 0; i < claves.size(); ++i) {
-        QAction* boton = principal.Boton(static_cast<int>(i) + 1);
-        EXPECT_EQ(boton, principal.tlbPrincipal->actions().at(static_cast<qsizetype>(i)));
-        EXPECT_EQ(boton->data().toString().toStdString(), claves[i]) << "place " << i + 1;
-        EXPECT_EQ(boton->isSeparator(), claves[i].empty()) << "place " << i + 1;
-    }
-}
-
 TEST_F(VentanaPrincipal_, TheDesignGroupOfTheToolbarOpensTheThreeWindows) {
     NuevoModelo();
     PulsarBoton("Requerimientos");
