@@ -1,7 +1,4 @@
 // The function editor's optional indicators and scoring elements, worked as a user works them.
-#include "core/files/modelo_archivo.h"
-#include "core/shell/herramientas.h"
-#include "soporte/datos.h"
 #include "soporte/guion_modales.h"
 #include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
@@ -28,7 +25,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <sstream>
 
 namespace vadro {
 namespace {
@@ -129,30 +125,7 @@ protected:
     std::unique_ptr<frmFuncionValor> ventana;
 };
 
-TEST_F(Optativos, TickingTheBoxShowsThePanelAndRefusesTemplatesClearingItGivesTheKindBack) {
-    Abrir(pruebas::Continua());
-    QTest::mouseClick(ventana->chkOptativos, Qt::LeftButton);
-    EXPECT_TRUE(Panel().isVisible());
-    EXPECT_FALSE(ventana->pctFondoGrafica->isVisible());
-    EXPECT_FALSE(ventana->cbbTipoFuncionPrimaria->isEnabled());
-    EXPECT_FALSE(ventana->cmdCargar->isEnabled());
-    EXPECT_FALSE(ventana->cmdGuardar->isEnabled());
-    EXPECT_EQ(Panel().lblOptativos->text(), QStringLiteral("2"));
-    EXPECT_EQ(Panel().lblSeleccionables->text(), QStringLiteral("1"));
-    EXPECT_EQ(Panel().grdOptativos->model()->headerData(0, Qt::Horizontal).toString(),
-              QStringLiteral("Descripción del indicador optativo"));
-    EXPECT_EQ(Panel().grdOptativos->model()->columnCount(), 1) << "no column for a mark";
-    ClickPestana(*ventana, 1);
-    EXPECT_TRUE(Panel().isVisible()) << "the panel stands under either tab";
-    EXPECT_FALSE(ventana->pctError->isVisible());
-    QTest::mouseClick(ventana->chkOptativos, Qt::LeftButton);
-    EXPECT_FALSE(Panel().isVisible());
-    EXPECT_TRUE(ventana->pctFondoGrafica->isVisible());
-    EXPECT_TRUE(ventana->cmdGuardar->isEnabled());
-    EXPECT_EQ(ventana->tspSeleccion->currentIndex(), 0);
-}
-
-TEST_F(Optativos, ThreeIndicatorsTwoSelectableEachWithItsFunctionSavedAndReadBack) {
+TEST_F(Optativos, ThreeIndicatorsTwoSelectableEachWithItsFunction) {
     Abrir(FuncionValor{});
     QTest::mouseClick(ventana->chkOptativos, Qt::LeftButton);
     QAbstractItemModelTester comprobador(Panel().grdOptativos->model());
@@ -236,19 +209,6 @@ TEST_F(Optativos, ThreeIndicatorsTwoSelectableEachWithItsFunctionSavedAndReadBac
     ASSERT_EQ(f.Optativos.Tamano(), 3);
     EXPECT_EQ(f.Optativos(3).Nombre, "Nivel");
     EXPECT_EQ(f.Optativos(2).Funcion.Tipo, FuncionEscalon);
-
-    Modelo modelo = pruebas::ModeloCon({pruebas::Requerimiento(
-        "Servicio", {pruebas::Criterio("Red", {pruebas::Indicador("Coste", f)})})});
-    ASSERT_TRUE(GuardarModelo(modelo, Ruta("optativos.vdm"), false));
-    std::istringstream entrada;
-    std::ostringstream texto, error;
-    ASSERT_EQ(EjecutarHerramientas({"texto", Ruta("optativos.vdm")}, entrada, texto, error), 0)
-        << error.str();
-    EXPECT_EQ(texto.str(), pruebas::Datos("funciones/modelo_optativos.txt", texto.str()));
-    Modelo leido;
-    CargarModelo(leido, Ruta("optativos.vdm"));
-    const FuncionValor& guardada = modelo.Requerimientos(1).Criterios(1).Indicadores(1).Funcion;
-    EXPECT_EQ(leido.Requerimientos(1).Criterios(1).Indicadores(1).Funcion, guardada);
 }
 
 TEST_F(Optativos, TheSecondWindowCancelledLeavesTheRowsFunctionAsItWas) {
