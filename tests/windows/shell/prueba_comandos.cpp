@@ -25,6 +25,9 @@ TEST_F(Comandos, NuevoUnloadsEveryOtherWindowBeforeTheProperties) {
     UnRequerimiento();
     PulsarEtiqueta(6);
     ASSERT_EQ(Hijas(), (Strings{"frmRequerimientos", "frmPonderacion"}));
+    for (int i : {1, 2, 3}) {
+        principal.MarcarPaso(i, true); // the design steps of the old model, done
+    }
     modales.Esperar(QStringLiteral("frmPropiedades"), [this](QDialog& propiedades) {
         EXPECT_TRUE(Hijas().empty());
         propiedades.reject();
@@ -33,7 +36,7 @@ TEST_F(Comandos, NuevoUnloadsEveryOtherWindowBeforeTheProperties) {
     EXPECT_EQ(Hijas(), Strings{"frmEjes"}) << "a cancelled dialog leaves the new model in place";
     EXPECT_EQ(Situacion(), "Ejes | Posición: ejes | frmEjes");
     for (int i : {1, 2, 3}) {
-        EsperarPendiente(i);
+        EsperarPendiente(i); // a new model has none of them
     }
 }
 
