@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -46,7 +47,9 @@ std::optional<ClaseControl> ClaseDe(const QWidget* w) {
     if (qobject_cast<const QTableView*>(w) != nullptr) {
         return ClaseControl::Cuadricula;
     }
-    if (qobject_cast<const QTreeView*>(w) != nullptr) {
+    // A list (the stages, the compilation report) reads as a tree does.
+    if (qobject_cast<const QTreeView*>(w) != nullptr ||
+        qobject_cast<const QListView*>(w) != nullptr) {
         return ClaseControl::Arbol;
     }
     return std::nullopt;

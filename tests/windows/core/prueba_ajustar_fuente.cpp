@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QSlider>
 #include <QTableWidget>
@@ -26,10 +27,11 @@ struct VentanaDePrueba {
     QCheckBox* casilla = new QCheckBox(&ventana);
     QTableWidget* rejilla = new QTableWidget(&ventana);
     QTreeWidget* arbol = new QTreeWidget(&ventana);
+    QListWidget* lista = new QListWidget(&ventana);
     QSlider* otro = new QSlider(&ventana);
 
     std::vector<QWidget*> DeLaTabla() const {
-        return {etiqueta, texto, combo, marco, boton, casilla, rejilla, arbol};
+        return {etiqueta, texto, combo, marco, boton, casilla, rejilla, arbol, lista};
     }
 };
 
