@@ -257,6 +257,7 @@ void frmRequerimientos::cmdAceptar_Click() {
     emit MarcaPaso(EtqRequerimientos, ed_->tvwArbol.Cuenta() >= 2);
     ed_->LlamaLlenarRequerimientos();
     Aceptado = true;
+    emit ModeloAceptado(ParteModelo::Requerimientos);
     Descargar();
 }
 
