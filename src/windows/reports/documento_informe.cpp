@@ -25,6 +25,10 @@ constexpr int kPropDibujo = QTextFormat::UserProperty + 1;
 constexpr int kPropFuncion = QTextFormat::UserProperty + 2;
 // The level of a paragraph, for reading the document back.
 constexpr int kPropNivel = QTextFormat::UserProperty + 3;
+// The number of a picture in its document. Formats are told apart by a hash of their
+// properties, which sees only the type of a function: without a number of their own all the
+// pictures would share one hash, and each new one would be compared with all before it.
+constexpr int kPropNumero = QTextFormat::UserProperty + 4;
 
 // How often a long build reports its progress, in lines.
 constexpr int kLineasPorAviso = 500;
@@ -107,9 +111,10 @@ QTextImageFormat FormatoIcono(IconoInforme icono) {
     return formato;
 }
 
-QTextCharFormat FormatoGrafica(const PiezaInforme& pieza) {
+QTextCharFormat FormatoGrafica(const PiezaInforme& pieza, int numero) {
     QTextCharFormat formato;
     formato.setObjectType(ObjetoGrafica::kTipo);
+    formato.setProperty(kPropNumero, numero);
     formato.setProperty(kPropDibujo, static_cast<int>(pieza.Dibujo));
     if (pieza.Funcion) {
         formato.setProperty(kPropFuncion, QVariant::fromValue(pieza.Funcion));
@@ -133,7 +138,7 @@ Grafica DibujoDe(const QTextFormat& formato) {
     return grafica;
 }
 
-void EscribirPieza(QTextCursor& cursor, const PiezaInforme& pieza) {
+void EscribirPieza(QTextCursor& cursor, const PiezaInforme& pieza, int& graficas) {
     switch (pieza.Tipo) {
     case TipoPieza::Texto:
         cursor.insertText(Q(pieza.Texto), FormatoTexto(pieza.Letra));
@@ -142,7 +147,8 @@ void EscribirPieza(QTextCursor& cursor, const PiezaInforme& pieza) {
         cursor.insertImage(FormatoIcono(pieza.Icono));
         break;
     case TipoPieza::Grafica:
-        cursor.insertText(QString(QChar::ObjectReplacementCharacter), FormatoGrafica(pieza));
+        cursor.insertText(QString(QChar::ObjectReplacementCharacter),
+                          FormatoGrafica(pieza, ++graficas));
         break;
     }
 }
@@ -170,15 +176,12 @@ void LlenarDocumento(QTextDocument& documento, const Informe& informe,
     documento.setUndoRedoEnabled(false);
     documento.clear();
     documento.setDefaultFont(FuenteInforme());
-    if (documento.findChild<ObjetoGrafica*>() == nullptr) {
-        documento.documentLayout()->registerHandler(ObjetoGrafica::kTipo,
-                                                    new ObjetoGrafica(&documento));
-    }
     PonerIconos(documento);
     const QTextCharFormat normal = FormatoTexto(FormatoLetra{});
     const auto& lineas = informe.Lineas();
     const int total = static_cast<int>(lineas.size());
     QTextCursor cursor(&documento);
+    int graficas = 0;
     cursor.beginEditBlock();
     for (int k = 0; k < total; ++k) {
         const LineaInforme& linea = lineas[static_cast<std::size_t>(k)];
@@ -189,13 +192,20 @@ void LlenarDocumento(QTextDocument& documento, const Informe& informe,
             cursor.insertBlock(FormatoLinea(linea), normal);
         }
         for (const PiezaInforme& pieza : linea.Piezas) {
-            EscribirPieza(cursor, pieza);
+            EscribirPieza(cursor, pieza, graficas);
         }
         if (avance && k % kLineasPorAviso == 0) {
             avance(k, total);
         }
     }
     cursor.endEditBlock();
+    // The layout comes last, once the text is whole: one that stood from the start would
+    // follow every insertion.
+    if (documento.findChild<ObjetoGrafica*>() == nullptr) {
+        documento.documentLayout()->registerHandler(ObjetoGrafica::kTipo,
+                                                    new ObjetoGrafica(&documento));
+        documento.markContentsDirty(0, documento.characterCount());
+    }
 }
 
 std::string TextoDocumento(const QTextDocument& documento) {

@@ -113,14 +113,21 @@ void frmInforme::ActualizarRTFs() {
     for (const auto& [panel, informe] : panes) {
         total += Lineas(*informe);
     }
-    Progreso progreso(total);
+    // The panes let their old documents go first: a pane that still showed one would go on
+    // laying it out while the progress box lets the events through. The new documents are
+    // built apart and laid out by their panes once they are whole; each pane owns its own.
     for (const auto& [panel, informe] : panes) {
-        // Built apart from the pane, which lays it out once when it takes it; the pane owns it
-        // and lets the old one go.
-        auto* documento = new QTextDocument(panel);
-        LlenarDocumento(*documento, *informe, progreso.Avance());
-        panel->setDocument(documento);
-        progreso.Terminar(Lineas(*informe));
+        panel->setDocument(new QTextDocument(panel));
+    }
+    Progreso progreso(total);
+    std::array<QTextDocument*, panes.size()> documentos{};
+    for (std::size_t i = 0; i < panes.size(); ++i) {
+        documentos[i] = new QTextDocument(panes[i].first);
+        LlenarDocumento(*documentos[i], *panes[i].second, progreso.Avance());
+        progreso.Terminar(Lineas(*panes[i].second));
+    }
+    for (std::size_t i = 0; i < panes.size(); ++i) {
+        panes[i].first->setDocument(documentos[i]);
     }
 }
 
