@@ -2,15 +2,24 @@
 
 #include "core/core/error_ejecucion.h"
 #include "core/core/mensajes.h"
-#include "core/reports/impresion.h"
+#include "core/core/sesion.h"
+#include "core/reports/comandos_informe.h"
+#include "windows/core/conectar.h"
+#include "windows/core/modal.h"
 #include "windows/core/texto.h"
+#include "windows/reports/documento_informe.h"
+#include "windows/reports/frmInforme.h"
 
 #include <QAbstractItemView>
+#include <QAbstractTextDocumentLayout>
 #include <QHeaderView>
 #include <QPageLayout>
 #include <QPainter>
+#include <QPdfWriter>
+#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QTableView>
+#include <QTextDocument>
 #include <QTreeView>
 
 #include <algorithm>
@@ -82,8 +91,7 @@ double PintarFila(QPainter& pintor, const Fila& fila, const Hoja& hoja, double y
     return y + hoja.linea * lineas;
 }
 
-void PrepararPagina(QPagedPaintDevice& impresora) {
-    const MargenesImpresion& m = kMargenesInforme;
+void PrepararPagina(QPagedPaintDevice& impresora, const MargenesImpresion& m = kMargenesInforme) {
     impresora.setPageMargins(QMarginsF(TwipsAMilimetros(m.izquierdo), TwipsAMilimetros(m.superior),
                                        TwipsAMilimetros(m.derecho), TwipsAMilimetros(m.inferior)),
                              QPageLayout::Millimeter);
@@ -164,9 +172,71 @@ void ImprimirLista(const QAbstractItemView& lista, QPagedPaintDevice& impresora)
     }
 }
 
-void ImprimirInforme(frmInforme& /*informe*/) {
-    MsgBox("La impresión del informe todavía no está disponible: no se ha impreso nada.",
-           Botones::Aceptar, Icono::Informacion, "VADRO PROGRAMADOR: imprimir modelo");
+int ImprimirRTF(const Informe& informe, QPagedPaintDevice& impresora,
+                const MargenesImpresion& margenes) {
+    PrepararPagina(impresora, margenes);
+    // The text is laid out as on the screen, over a page of the printable size, and each
+    // page is painted at the scale of the device: the layout breaks lines and pages, no line
+    // and no picture is cut between two pages.
+    const double escalaX = impresora.logicalDpiX() / DpiTexto();
+    const double escalaY = impresora.logicalDpiY() / DpiTexto();
+    QTextDocument documento;
+    LlenarDocumento(documento, informe);
+    documento.setDocumentMargin(0);
+    const QSizeF pagina(impresora.width() / escalaX, impresora.height() / escalaY);
+    documento.setPageSize(pagina);
+    const int paginas = std::max(1, documento.pageCount());
+
+    QPainter pintor;
+    if (!pintor.begin(&impresora)) {
+        throw ErrorEjecucion(ErrImpresora);
+    }
+    for (int n = 0; n < paginas; ++n) {
+        if (n > 0 && !impresora.newPage()) {
+            throw ErrorEjecucion(ErrImpresora);
+        }
+        const QRectF visible(QPointF(0, n * pagina.height()), pagina);
+        pintor.save();
+        pintor.scale(escalaX, escalaY);
+        pintor.translate(0, -visible.top());
+        pintor.setClipRect(visible);
+        QAbstractTextDocumentLayout::PaintContext contexto;
+        contexto.clip = visible;
+        contexto.palette.setColor(QPalette::Text, Qt::black);
+        documento.documentLayout()->draw(&pintor, contexto);
+        pintor.restore();
+    }
+    if (!pintor.end()) {
+        throw ErrorEjecucion(ErrImpresora);
+    }
+    return paginas;
+}
+
+void ImprimirInforme(frmInforme& informe) {
+    const auto impresora = CrearImpresora(MostrarDialogoImpresora(PeticionImprimirModelo()));
+    ImprimirRTF(informe.InformeCompleto(), *impresora);
+}
+
+void VistaPreliminarInforme(const Informe& informe, QWidget* padre) {
+    QPrinter impresora(QPrinter::HighResolution);
+    QPrintPreviewDialog vista(&impresora, padre);
+    vista.setObjectName(Q("frmVistaPreliminar"));
+    vista.setWindowTitle(Q(kTituloVistaPreliminar));
+    Conectar(&vista, &QPrintPreviewDialog::paintRequested, &vista,
+             [&informe](QPrinter* destino) { ImprimirRTF(informe, *destino); });
+    MostrarModal(vista);
+}
+
+void EscribirInformePdf(const Informe& informe, const std::string& ruta) {
+    QPdfWriter pdf(Q(ruta));
+    pdf.setPageSize(QPageSize(QPageSize::A4));
+    pdf.setTitle(Q(TituloInforme(SesionActual().modelo)));
+    pdf.setCreator(Q("VADRO PROGRAMADOR"));
+    try {
+        ImprimirRTF(informe, pdf);
+    } catch (const ErrorEjecucion&) {
+        throw ErrorEjecucion(ErrAccesoRuta);
+    }
 }
 
 } // namespace vadro

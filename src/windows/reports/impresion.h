@@ -1,6 +1,8 @@
 #pragma once
 
 #include "core/core/dialogos.h"
+#include "core/reports/impresion.h"
+#include "core/reports/informe_modelo.h"
 
 #include <QFont>
 
@@ -9,6 +11,7 @@
 class QAbstractItemView;
 class QPagedPaintDevice;
 class QPrinter;
+class QWidget;
 
 namespace vadro {
 
@@ -31,11 +34,23 @@ int LineasPorPagina(QPagedPaintDevice& impresora);
 // or take a new page is a printer error (482), which goes up to the caller.
 void ImprimirLista(const QAbstractItemView& lista, QPagedPaintDevice& impresora);
 
-// Sends the model report of the loaded report window to the default printer, paged, with
-// the report's margins and its pictures in place. A failure goes up to the command as a
+// Prints a report on a paged device (a printer, a PDF file) within the margins in twips, page
+// after page as the laid-out text fills them, with its pictures in place, drawn as vectors.
+// A report that fits one page takes one page; an empty one still ejects one. A device that
+// cannot start the job or take a new page is a printer error (482). Gives the pages printed.
+int ImprimirRTF(const Informe& informe, QPagedPaintDevice& impresora,
+                const MargenesImpresion& margenes = kMargenesInforme);
+
+// Sends the model report of the loaded report window to the printer the user chooses, paged,
+// with the report's margins and its pictures in place. A failure goes up to the command as a
 // runtime error, a cancelled printer dialog as the cancel error.
-//
-// Printing is not built yet: until it is, this tells the user so and prints nothing.
 void ImprimirInforme(frmInforme& informe);
+
+// The print preview of a report, from which the user may print it.
+void VistaPreliminarInforme(const Informe& informe, QWidget* padre);
+
+// Writes a report into a PDF file with the report's margins on A4 paper, its pictures as
+// vectors. A file that cannot be written is a path access error (75).
+void EscribirInformePdf(const Informe& informe, const std::string& ruta);
 
 } // namespace vadro

@@ -5,6 +5,8 @@
 #include "core/core/mensajes.h"
 #include "core/core/sesion.h"
 #include "core/files/modelo_archivo.h"
+#include "core/reports/comandos_informe.h"
+#include "core/reports/informe_modelo.h"
 #include "core/shell/comandos_modelo.h"
 #include "windows/compilation/frmCompilacion.h"
 #include "windows/core/conectar.h"
@@ -101,6 +103,15 @@ void frmPrincipal::AvisarResumen(ParteModelo parte) {
     }
 }
 
+void frmPrincipal::AvisarAceptacion(ParteModelo parte, const VentanaHija& origen) {
+    for (Hija hija : {Hija::Resumen, Hija::Ponderacion, Hija::Informe}) {
+        VentanaHija* abierta = Abierta(hija);
+        if (abierta != nullptr && abierta != &origen) {
+            abierta->ModeloCambiado(parte);
+        }
+    }
+}
+
 void frmPrincipal::Guardar() {
     Sesion& sesion = SesionActual();
     Modelo& modelo = sesion.modelo;
@@ -150,14 +161,27 @@ void frmPrincipal::Imprimir() {
         ImprimirInforme(informe);
     } catch (const ErrorEjecucion& error) {
         if (error.Numero() != ErrCancelar) {
-            MsgBox("Error " + std::to_string(error.Numero()) + " al realizar la impresión.",
-                   Botones::Aceptar, Icono::Critico, "VADRO PROGRAMADOR: imprimir modelo");
+            const Mensaje fallo = MensajeFalloImprimirModelo(error.Numero());
+            MsgBox(fallo.texto, fallo.botones, fallo.icono, fallo.titulo);
         }
     }
     if (deMomento) {
         Descargar(Hija::Informe);
         pctFondo->setVisible(conFondo);
     }
+}
+
+// The preview and the PDF read the report of the model as it stands, with or without its
+// window.
+void frmPrincipal::VistaPreliminar() {
+    VistaPreliminarInforme(GenerarInforme(SesionActual().modelo), this);
+}
+
+void frmPrincipal::ExportarPdf() {
+    const Sesion& sesion = SesionActual();
+    ExportarInformePdf(sesion, [&sesion](const std::string& ruta) {
+        EscribirInformePdf(GenerarInforme(sesion.modelo), ruta);
+    });
 }
 
 void frmPrincipal::TituloConArchivo(const std::string& archivo) {

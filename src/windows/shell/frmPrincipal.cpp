@@ -345,6 +345,8 @@ void frmPrincipal::Alojar(VentanaHija& ventana) {
     Conectar(&ventana, &VentanaHija::Descargada, this,
              [this](Hija hija) { AplicarEfecto(EfectoAlDescargar(hija), false); });
     Conectar(&ventana, &VentanaHija::PideVentana, this, [this](Hija hija) { Cargar(hija); });
+    Conectar(&ventana, &VentanaHija::ModeloAceptado, this,
+             [this, &ventana](ParteModelo parte) { AvisarAceptacion(parte, ventana); });
     Conectar(&ventana, &VentanaHija::MarcaPaso, this,
              [this](int etiqueta, bool satisfecho) { MarcarPaso(etiqueta, satisfecho); });
     Conectar(&ventana, &VentanaHija::PideTransicion, this,

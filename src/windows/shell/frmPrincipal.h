@@ -46,6 +46,9 @@ public:
     void GuardarComo();
     void Compilar();
     void Imprimir();
+    // The report as a print preview, and as a PDF file.
+    void VistaPreliminar();
+    void ExportarPdf();
     // The model menu: the subcriteria permission, a template entry, the axes, the properties.
     void mnuPermitirSubcriterios_Click();
     void Plantilla(const EntradaPlantilla& entrada);
@@ -118,6 +121,7 @@ public:
     QAction* mnuGuardarComo;
     QAction* mnuVista;
     QAction* mnuImprimir;
+    QAction* mnuExportarPDF;
     QAction* mnuPreferencias;
     QAction* mnuSalir;
     QMenu* mnuModelo;
@@ -171,6 +175,8 @@ private:
     void MostrarModeloAbierto();
     void AvisarResumen(ParteModelo parte);
     void LlegarAError(const DestinoError& destino);
+    // A design window wrote its part into the model: the other open windows follow it.
+    void AvisarAceptacion(ParteModelo parte, const VentanaHija& origen);
     bool CerrarHijas();
     std::vector<Hija> HijasAbiertas() const;
     // A step that a child window asks for while the main window is loading it waits for the

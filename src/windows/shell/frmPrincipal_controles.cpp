@@ -268,6 +268,7 @@ void frmPrincipal::CrearMenus() {
     mnuArchivo->addSeparator();
     mnuVista = Entrada(mnuArchivo, "mnuVista", "&Vista preliminar");
     mnuImprimir = Entrada(mnuArchivo, "mnuImprimir", "&Imprimir");
+    mnuExportarPDF = Entrada(mnuArchivo, "mnuExportarPDF", "&Exportar a PDF...");
     mnuArchivo->addSeparator();
     mnuPreferencias = Entrada(mnuArchivo, "mnuPreferencias", "Pre&ferencias");
     mnuArchivo->addSeparator();
@@ -344,6 +345,8 @@ void frmPrincipal::ConectarMenus() {
     orden(mnuGuardar, Comando::Guardar);
     Conectar(mnuGuardarComo, &QAction::triggered, this, [this] { GuardarComo(); });
     orden(mnuImprimir, Comando::Imprimir);
+    Conectar(mnuVista, &QAction::triggered, this, [this] { VistaPreliminar(); });
+    Conectar(mnuExportarPDF, &QAction::triggered, this, [this] { ExportarPdf(); });
     Conectar(mnuPreferencias, &QAction::triggered, this, [this] {
         frmPreferencias preferencias(this);
         MostrarModal(preferencias);

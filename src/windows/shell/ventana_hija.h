@@ -43,6 +43,8 @@ signals:
     void Descargada(vadro::Hija hija);
     // Another child window should open, or come to the front when it is open.
     void PideVentana(vadro::Hija hija);
+    // A design window wrote its part into the model: the windows that show it follow.
+    void ModeloAceptado(vadro::ParteModelo parte);
     // A step of the panel is satisfied or not.
     void MarcaPaso(int etiqueta, bool satisfecho);
     // A hint for panel 1 of the status bar; the empty text puts the position back.

@@ -204,6 +204,7 @@ void frmComponentes::cmdAceptar_Click() {
     emit MarcaPaso(EtqComponentes, !ed_->tvwArbol.Vacio());
     ed_->LlamaLlenarComponentes();
     Aceptado = true;
+    emit ModeloAceptado(ParteModelo::Componentes);
     Descargar();
 }
 

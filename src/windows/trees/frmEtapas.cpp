@@ -94,6 +94,7 @@ void frmEtapas::AgregarEtapa(const std::string& nombre) {
 void frmEtapas::cmdAceptar_Click() {
     emit MarcaPaso(EtqCicloVida, !ed_.lstEtapas.empty());
     LlamaLlenarEtapas();
+    emit ModeloAceptado(ParteModelo::Etapas);
     Descargar();
 }
 

@@ -267,6 +267,7 @@ void frmRequerimientos::cmdAceptar_Click() {
     emit MarcaPaso(EtqRequerimientos, ed_->tvwArbol.Cuenta() >= 2);
     ed_->LlamaLlenarRequerimientos();
     Aceptado = true;
+    emit ModeloAceptado(ParteModelo::Requerimientos);
     Descargar();
 }
 

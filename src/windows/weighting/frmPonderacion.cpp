@@ -15,6 +15,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace vadro {
 
 frmPonderacion::frmPonderacion(QWidget* padre)
@@ -29,15 +31,7 @@ frmPonderacion::frmPonderacion(QWidget* padre)
     columna->setContentsMargins(0, 0, 0, 0);
     columna->addWidget(grdRequerimientos);
 
-    Sesion& sesion = SesionActual();
-    sesion.FilasPonderacion.clear();
-    if (ModeloPonderable(sesion.modelo)) {
-        VistaPonderacion vista = ConstruirVistaPonderacion(sesion.modelo);
-        sesion.FilasPonderacion = vista.Rutas;
-        vista_ = new ModeloVistaPonderacion(sesion.modelo, std::move(vista), this);
-        grdRequerimientos->setModel(vista_);
-        Combinar();
-    }
+    Llenar();
     Conectar(grdRequerimientos, &QTableView::clicked, this, [this](const QModelIndex& celda) {
         grdRequerimientos_Click(celda.row(), celda.column());
     });
@@ -45,6 +39,37 @@ frmPonderacion::frmPonderacion(QWidget* padre)
         grdRequerimientos_DblClick(celda.row(), celda.column());
     });
     AjustarControles();
+}
+
+void frmPonderacion::Llenar() {
+    Sesion& sesion = SesionActual();
+    sesion.FilasPonderacion.clear();
+    grdRequerimientos->setModel(nullptr);
+    grdRequerimientos->clearSpans();
+    delete std::exchange(vista_, nullptr);
+    if (ModeloPonderable(sesion.modelo)) {
+        VistaPonderacion vista = ConstruirVistaPonderacion(sesion.modelo);
+        sesion.FilasPonderacion = vista.Rutas;
+        vista_ = new ModeloVistaPonderacion(sesion.modelo, std::move(vista), this);
+        grdRequerimientos->setModel(vista_);
+        Combinar();
+    }
+}
+
+void frmPonderacion::ModeloCambiado(ParteModelo parte) {
+    if (parte != ParteModelo::Requerimientos) {
+        return;
+    }
+    Llenar();
+    AjustarControles();
+    // As at the load: an empty model has nothing to weigh.
+    comprobado_ = false;
+    if (isVisible()) {
+        comprobado_ = true;
+        if (!ModeloPonderable(SesionActual().modelo)) {
+            emit PideTransicion(PreguntarModeloVacio());
+        }
+    }
 }
 
 void frmPonderacion::AjustarControles() {

@@ -18,6 +18,8 @@ class frmPonderacion : public VentanaHija {
 public:
     explicit frmPonderacion(QWidget* padre = nullptr);
     void AjustarControles() override;
+    // The requirements were accepted: the grid is loaded again, as the window's load does.
+    void ModeloCambiado(ParteModelo parte) override;
 
     QTableView* grdRequerimientos;
     // The grid's model; none for an empty model, which fills no grid.
@@ -32,6 +34,7 @@ protected:
     void resizeEvent(QResizeEvent* evento) override;
 
 private:
+    void Llenar();
     void Combinar();
     void RepartirColumnas();
 

@@ -1,7 +1,10 @@
 // The printing of a list: its lines paged on the printer, counted in the pages of a PDF file.
 
 #include "core/core/error_ejecucion.h"
+#include "core/reports/comandos_informe.h"
+#include "paginas_pdf.h"
 #include "soporte/errores.h"
+#include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
 #include "windows/core/texto.h"
 #include "windows/reports/impresion.h"
@@ -21,14 +24,7 @@
 namespace vadro {
 namespace {
 
-int PaginasPdf(const std::string& ruta) {
-    std::ifstream archivo(ruta, std::ios::binary);
-    const std::string pdf((std::istreambuf_iterator<char>(archivo)),
-                          std::istreambuf_iterator<char>());
-    const std::regex pagina("/Type\\s*/Page[^s]");
-    return static_cast<int>(std::distance(std::sregex_iterator(pdf.begin(), pdf.end(), pagina),
-                                          std::sregex_iterator()));
-}
+using pruebas::PaginasPdf;
 
 class ImpresionLista : public pruebas::PruebaSesion {
 protected:
@@ -131,6 +127,68 @@ TEST_F(ImpresionLista, TheChosenPrinterIsSetUpAsItWasChosen) {
     EXPECT_EQ(impresora->copyCount(), 2);
     EXPECT_EQ(impresora->pageLayout().orientation(), QPageLayout::Landscape);
     EXPECT_EQ(impresora->pageLayout().pageSize().id(), QPageSize::Letter);
+}
+
+// The model report on pages: as many as its laid-out text needs within the margins.
+class ImpresionInforme : public pruebas::PruebaSesion {
+protected:
+    int Imprimir(const Informe& informe, const MargenesImpresion& margenes = kMargenesInforme) {
+        const std::string ruta = Ruta("informe" + std::to_string(++impresiones) + ".pdf");
+        int devueltas = 0;
+        {
+            QPdfWriter pdf(Q(ruta));
+            pdf.setPageSize(QPageSize(QPageSize::A4));
+            devueltas = ImprimirRTF(informe, pdf, margenes);
+        }
+        const int paginas = PaginasPdf(ruta);
+        EXPECT_EQ(devueltas, paginas) << "the pages said are the pages printed";
+        return paginas;
+    }
+    // A report of so many short lines of text.
+    static Informe Lineas(int cuantas) {
+        Informe informe;
+        for (int i = 1; i <= cuantas; ++i) {
+            informe.AñadirTexto("Línea " + std::to_string(i) + "\n", 1);
+        }
+        return informe;
+    }
+    int impresiones = 0;
+};
+
+TEST_F(ImpresionInforme, AnEmptyReportAndOneThatFitsEjectOnePage) {
+    EXPECT_EQ(Imprimir(Informe()), 1);
+    EXPECT_EQ(Imprimir(Lineas(1)), 1);
+    EXPECT_EQ(Imprimir(Lineas(30)), 1);
+}
+
+TEST_F(ImpresionInforme, PagesFollowTheTextAndTheMargins) {
+    // A4 less the report's margins leaves about 10 inches: some 45 lines of 11 points.
+    const int una = Imprimir(Lineas(40));
+    const int dos = Imprimir(Lineas(80));
+    const int cinco = Imprimir(Lineas(230));
+    EXPECT_EQ(una, 1);
+    EXPECT_EQ(dos, 2);
+    EXPECT_EQ(cinco, 5);
+    // Wider top and bottom margins leave room for fewer lines.
+    EXPECT_GT(Imprimir(Lineas(80), {2000, 4000, 1000, 4000}), dos);
+}
+
+TEST_F(ImpresionInforme, PicturesTakeTheirRoomAndNeverPartAcrossPages) {
+    // Each indicator brings a picture an inch and a quarter high: a page holds few of them.
+    const Informe informe = GenerarInforme(pruebas::ModeloGenerado(100));
+    const int paginas = Imprimir(informe);
+    EXPECT_GT(paginas, 100 * kAltoGraficaInforme / (1440 * 10));
+    EXPECT_LT(paginas, 100);
+}
+
+TEST_F(ImpresionInforme, ADeviceThatCannotStartIsAPrinterError) {
+    ImpresoraElegida elegida;
+    elegida.archivo = Ruta("no/existe/informe.pdf");
+    const auto impresora = CrearImpresora(elegida);
+    EXPECT_EQ(pruebas::NumeroDeError([&] { ImprimirRTF(Lineas(3), *impresora); }), ErrImpresora);
+    EXPECT_EQ(pruebas::NumeroDeError(
+                  [&] { EscribirInformePdf(Lineas(3), Ruta("no/existe/informe.pdf")); }),
+              ErrAccesoRuta);
 }
 
 } // namespace

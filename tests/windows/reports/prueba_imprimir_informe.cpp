@@ -1,0 +1,249 @@
+// The report from the main window: rebuilt when a design window is accepted, printed on the
+// chosen printer, previewed, exported to PDF; the summary and the overview follow the
+// accepted design windows too.
+
+#include "core/core/error_ejecucion.h"
+#include "core/reports/comandos_informe.h"
+#include "core/reports/modelos_informe.h"
+#include "paginas_pdf.h"
+#include "soporte/componentes_etapas.h"
+#include "soporte/guion_dialogos.h"
+#include "windows/core/texto.h"
+#include "windows/reports/documento_informe.h"
+#include "windows/reports/frmInforme.h"
+#include "windows/reports/frmResumen.h"
+#include "windows/reports/impresion.h"
+#include "windows/shell/ventana_principal.h"
+#include "windows/trees/ventana_diseno.h"
+#include "windows/weighting/frmPonderacion.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QImage>
+#include <QListWidget>
+#include <QMenu>
+#include <QMimeData>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QPrintPreviewWidget>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <QTextDocument>
+#include <QTextEdit>
+#include <QTreeView>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+
+namespace vadro {
+namespace {
+
+using pruebas::PaginasPdf;
+
+// The part of the model a design window writes, replaced by that of another model.
+void CambiarParte(Modelo& modelo, ParteModelo parte) {
+    switch (parte) {
+    case ParteModelo::Requerimientos: {
+        const Modelo otro = pruebas::ModeloSinNombreNiPesos();
+        modelo.NumRequerimientos = otro.NumRequerimientos;
+        modelo.Requerimientos = otro.Requerimientos;
+        break;
+    }
+    case ParteModelo::Componentes:
+        pruebas::PonerComponentes(modelo, {{"Otro componente", {}}});
+        break;
+    case ParteModelo::Etapas:
+        pruebas::PonerEtapas(modelo, {"Otra etapa"});
+        break;
+    }
+}
+
+int Filas(const QAbstractItemView& vista) {
+    int filas = 0;
+    std::function<void(const QModelIndex&)> contar = [&](const QModelIndex& padre) {
+        for (int f = 0; f < vista.model()->rowCount(padre); ++f) {
+            ++filas;
+            contar(vista.model()->index(f, 0, padre));
+        }
+    };
+    contar({});
+    return filas;
+}
+
+class InformePrincipal : public pruebas::VentanaPrincipal {
+protected:
+    InformePrincipal() { sesion().modelo = pruebas::ModeloCompleto(); }
+    frmInforme& Informe() { return dynamic_cast<frmInforme&>(principal.Cargar(Hija::Informe)); }
+    std::string Texto() { return TextoDocumento(*Informe().rtfInforme->document()); }
+    std::string TextoDelModelo() { return TextoPlano(GenerarInforme(sesion().modelo)); }
+};
+
+TEST_F(InformePrincipal, AcceptingADesignWindowRebuildsTheReportAndRefillsTheSummary) {
+    const struct {
+        vadro::Hija diseno;
+        ParteModelo parte;
+        const char* nombre;
+    } casos[] = {
+        {Hija::Requerimientos, ParteModelo::Requerimientos, "Económico"},
+        {Hija::Componentes, ParteModelo::Componentes, "Estructura"},
+        {Hija::Etapas, ParteModelo::Etapas, "Construcción"},
+    };
+    for (const auto& caso : casos) {
+        SCOPED_TRACE(caso.nombre);
+        sesion().modelo = pruebas::ModeloCompleto();
+        // The design window holds its copy of the model; the model then changes under it, and
+        // the report and the summary show the change.
+        auto& diseno = dynamic_cast<VentanaDiseno&>(principal.Cargar(caso.diseno));
+        CambiarParte(sesion().modelo, caso.parte);
+        principal.Descargar(Hija::Informe);
+        principal.Descargar(Hija::Resumen);
+        frmInforme& informe = Informe();
+        auto& resumen = dynamic_cast<frmResumen&>(principal.Cargar(Hija::Resumen));
+        ASSERT_EQ(Texto().find(caso.nombre), std::string::npos);
+        const int filasAntes = Filas(*resumen.tvwRequerimientos) + Filas(*resumen.tvwComponentes) +
+                               resumen.lstEtapas->count();
+
+        QTest::mouseClick(diseno.cmdAceptar, Qt::LeftButton);
+
+        EXPECT_EQ(principal.Abierta(caso.diseno), nullptr);
+        EXPECT_EQ(principal.Abierta(Hija::Informe), &informe) << "the same window, rebuilt";
+        EXPECT_NE(Texto().find(caso.nombre), std::string::npos);
+        EXPECT_EQ(Texto(), TextoDelModelo());
+        const int filasDespues = Filas(*resumen.tvwRequerimientos) +
+                                 Filas(*resumen.tvwComponentes) + resumen.lstEtapas->count();
+        EXPECT_GT(filasDespues, filasAntes) << "the summary shows the accepted part";
+    }
+}
+
+TEST_F(InformePrincipal, AcceptingTheRequirementsReloadsTheOverviewOfWeights) {
+    auto& diseno = dynamic_cast<VentanaDiseno&>(principal.Cargar(Hija::Requerimientos));
+    CambiarParte(sesion().modelo, ParteModelo::Requerimientos);
+    auto& ponderacion = dynamic_cast<frmPonderacion&>(principal.Cargar(Hija::Ponderacion));
+    const int antes = ponderacion.grdRequerimientos->model()->rowCount();
+    QTest::mouseClick(diseno.cmdAceptar, Qt::LeftButton);
+    // Coste, Plazo, Durabilidad, Acabado, Atención, Puestos: a row per indicator.
+    EXPECT_EQ(ponderacion.grdRequerimientos->model()->rowCount(), 6);
+    EXPECT_NE(antes, 6);
+    EXPECT_EQ(sesion().FilasPonderacion.size(), 6u);
+}
+
+TEST_F(InformePrincipal, ARebuildLeavesTheUsersClipboardAlone) {
+    QImage imagen(16, 16, QImage::Format_RGB32);
+    imagen.fill(QColor(12, 34, 56));
+    auto* datos = new QMimeData;
+    datos->setText(Q("texto del usuario"));
+    datos->setImageData(imagen);
+    QApplication::clipboard()->setMimeData(datos);
+
+    auto& diseno = dynamic_cast<VentanaDiseno&>(principal.Cargar(Hija::Requerimientos));
+    Informe().ActualizarRTFs();
+    QTest::mouseClick(diseno.cmdAceptar, Qt::LeftButton);
+
+    const QMimeData* despues = QApplication::clipboard()->mimeData();
+    ASSERT_NE(despues, nullptr);
+    EXPECT_EQ(despues->text(), Q("texto del usuario"));
+    ASSERT_TRUE(despues->hasImage());
+    EXPECT_EQ(qvariant_cast<QImage>(despues->imageData()).convertToFormat(QImage::Format_RGB32),
+              imagen);
+}
+
+TEST_F(InformePrincipal, PrintingGoesToTheChosenPrinterWithAWindowLoadedForTheMoment) {
+    const std::string ruta = Ruta("impreso.pdf");
+    pruebas::GuionImpresoras impresoras;
+    impresoras.ElegirArchivo(ruta);
+    principal.mnuImprimir->trigger();
+    ASSERT_EQ(impresoras.Peticiones().size(), 1u);
+    EXPECT_EQ(impresoras.Peticiones()[0].flags, PeticionImprimirModelo().flags);
+    EXPECT_EQ(principal.Abierta(Hija::Informe), nullptr) << "loaded for the moment only";
+    // The same report on the same printer, page for page; the pictures are drawn, not pasted
+    // as bitmaps: the only images are the icons.
+    ImpresoraElegida igual;
+    igual.archivo = Ruta("igual.pdf");
+    const int paginas = ImprimirRTF(GenerarInforme(sesion().modelo), *CrearImpresora(igual));
+    EXPECT_EQ(PaginasPdf(ruta), paginas);
+    EXPECT_GE(paginas, 2);
+    EXPECT_LE(pruebas::ImagenesPdf(ruta), 2 * 7);
+}
+
+TEST_F(InformePrincipal, AnOpenReportStaysOpenAfterPrinting) {
+    frmInforme& informe = Informe();
+    pruebas::GuionImpresoras impresoras;
+    impresoras.ElegirArchivo(Ruta("impreso.pdf"));
+    principal.Imprimir();
+    EXPECT_EQ(principal.Abierta(Hija::Informe), &informe);
+    EXPECT_GE(PaginasPdf(Ruta("impreso.pdf")), 2);
+}
+
+TEST_F(InformePrincipal, ACancelledPrinterDialogSaysNothingAndAFailureGivesTheMessage) {
+    pruebas::GuionImpresoras impresoras;
+    impresoras.Cancelar();
+    principal.Imprimir();
+
+    impresoras.ElegirArchivo(Ruta("no/existe/impreso.pdf"));
+    mensajes.Esperar("VADRO PROGRAMADOR: imprimir modelo", "Error 482 al realizar la impresión.");
+    principal.Imprimir();
+    EXPECT_EQ(principal.Abierta(Hija::Informe), nullptr);
+}
+
+TEST_F(InformePrincipal, ThePreviewShowsTheReportsPages) {
+    int paginas = 0;
+    modales.Esperar(Q("frmVistaPreliminar"), [&](QDialog& vista) {
+        EXPECT_EQ(ACadena(vista.windowTitle()), kTituloVistaPreliminar);
+        auto* hoja = pruebas::Hijo<QPrintPreviewWidget>(vista, "");
+        hoja->updatePreview();
+        paginas = hoja->pageCount();
+        vista.reject();
+    });
+    principal.mnuVista->trigger();
+    EXPECT_EQ(modales.Vistas().size(), 1u);
+    EXPECT_GE(paginas, 2);
+}
+
+TEST_F(InformePrincipal, TheExportWritesAPdfBesideTheModel) {
+    sesion().modelo.Archivo = Ruta("puente.vdm");
+    pruebas::GuionDialogos dialogos;
+    dialogos.Elegir("Exportar informe a PDF", Ruta("puente"));
+    principal.mnuExportarPDF->trigger();
+    ASSERT_EQ(dialogos.Peticiones().size(), 1u);
+    EXPECT_EQ(dialogos.Peticiones()[0].directorioInicial, Directorio());
+    EXPECT_EQ(dialogos.Peticiones()[0].nombreArchivo, "puente.pdf");
+    // A name typed without its extension gets the filter's; A4 with the report's margins.
+    const std::string ruta = Ruta("puente.pdf");
+    ASSERT_TRUE(std::filesystem::exists(ruta));
+    QPdfWriter igual(Q(Ruta("igual.pdf")));
+    igual.setPageSize(QPageSize(QPageSize::A4));
+    EXPECT_EQ(PaginasPdf(ruta), ImprimirRTF(GenerarInforme(sesion().modelo), igual));
+    EXPECT_LE(pruebas::ImagenesPdf(ruta), 2 * 7);
+}
+
+TEST_F(InformePrincipal, AnExportCancelledWritesNothingAndAFailureSaysWhy) {
+    pruebas::GuionDialogos dialogos;
+    dialogos.Cancelar("Exportar informe a PDF");
+    const auto archivos = [this] {
+        return std::distance(std::filesystem::directory_iterator(Directorio()),
+                             std::filesystem::directory_iterator());
+    };
+    const auto antes = archivos();
+    principal.mnuExportarPDF->trigger();
+    EXPECT_EQ(archivos(), antes);
+
+    dialogos.Elegir("Exportar informe a PDF", Ruta("no/existe/informe.pdf"));
+    mensajes.Esperar("VADRO PROGRAMADOR: exportar a PDF",
+                     "Error 75 al exportar el informe a PDF: " + DescripcionError(ErrAccesoRuta) +
+                         ".");
+    principal.mnuExportarPDF->trigger();
+}
+
+TEST_F(InformePrincipal, TheExportEntryFollowsPrintingInTheFileMenu) {
+    const QList<QAction*> entradas = principal.mnuArchivo->actions();
+    const auto imprimir = entradas.indexOf(principal.mnuImprimir);
+    ASSERT_GE(imprimir, 0);
+    EXPECT_EQ(entradas.value(imprimir + 1), principal.mnuExportarPDF);
+    EXPECT_EQ(principal.mnuExportarPDF->text(), Q("&Exportar a PDF..."));
+}
+
+} // namespace
+} // namespace vadro
