@@ -18,7 +18,7 @@ inline FuncionValor Continua(const std::string& clave = "I1C1R1") {
     FuncionValor f;
     f.Clave = clave;
     f.Tipo = FuncionContinua;
-    f.Unidades = "m";
+    f.Unidades = std::string("m");
     f.XMin = "<0";
     f.XMax = "=100";
     f.RMin = 0.0;

@@ -1,3 +1,4 @@
+#include "core/core/comunes.h"
 #include "core/shell/flujo_trabajo.h"
 #include "soporte/acta.h"
 #include "soporte/prueba_sesion.h"
@@ -30,14 +31,14 @@ std::string Marca(const char* nombre, const std::optional<bool>& valor) {
 
 std::string Describir(const Transicion& t) {
     const Ajuste& a = t.ajuste;
-    std::string texto = "[" + Marca("entradas", a.entradasDiseno) +
-                        Marca("retroceder", a.cmdRetroceder) + Marca("b8", a.botonRetroceder) +
-                        Marca("continuar", a.cmdContinuar) + Marca("b9", a.botonContinuar) +
-                        Marca("grupo", a.grupoDiseno) + Marca("importar", a.importar) +
-                        Marca("panel", a.panel) + Marca("fondo", a.fondo) + " ]";
-    texto += " aceptar:" + Lista(t.aceptar) + " descargar:" + Lista(t.descargar) +
-             " cargar:" + Lista(t.cargar);
-    texto += " -> " + (t.destino ? NombrePosicion(*t.destino) : std::string("="));
+    std::string texto = Unir({"[", Marca("entradas", a.entradasDiseno),
+                              Marca("retroceder", a.cmdRetroceder), Marca("b8", a.botonRetroceder),
+                              Marca("continuar", a.cmdContinuar), Marca("b9", a.botonContinuar),
+                              Marca("grupo", a.grupoDiseno), Marca("importar", a.importar),
+                              Marca("panel", a.panel), Marca("fondo", a.fondo), " ]"});
+    texto += Unir({" aceptar:", Lista(t.aceptar), " descargar:", Lista(t.descargar),
+                   " cargar:", Lista(t.cargar)});
+    texto += Unir({" -> ", t.destino ? NombrePosicion(*t.destino) : std::string("=")});
     texto += t.preguntarPermisos ? " permisos" : "";
     texto += t.finalDeLinea ? " final" : "";
     return texto;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/core/comunes.h"
 #include "core/core/registros.h"
 #include "soporte/modelo_sano.h"
 
@@ -11,21 +12,21 @@ namespace vadro::pruebas {
 inline void PonerClaves(Modelo& modelo) {
     for (int r = 1; r <= modelo.Requerimientos.Tamano(); ++r) {
         NodoRequerimiento& req = modelo.Requerimientos(r);
-        const std::string kr = "R" + std::to_string(r);
+        const std::string kr = Unir({"R", std::to_string(r)});
         req.Clave = kr;
         for (int c = 1; c <= req.Criterios.Tamano(); ++c) {
             NodoCriterio& crit = req.Criterios(c);
-            const std::string kc = "C" + std::to_string(c) + kr;
+            const std::string kc = Unir({"C", std::to_string(c), kr});
             crit.Clave = kc;
             for (int i = 1; i <= crit.Indicadores.Tamano(); ++i) {
-                crit.Indicadores(i).Clave = "I" + std::to_string(i) + kc;
+                crit.Indicadores(i).Clave = Unir({"I", std::to_string(i), kc});
             }
             for (int s = 1; s <= crit.Subcriterios.Tamano(); ++s) {
                 NodoSubcriterio& sub = crit.Subcriterios(s);
-                const std::string ks = "S" + std::to_string(s) + kc;
+                const std::string ks = Unir({"S", std::to_string(s), kc});
                 sub.Clave = ks;
                 for (int i = 1; i <= sub.Indicadores.Tamano(); ++i) {
-                    sub.Indicadores(i).Clave = "I" + std::to_string(i) + ks;
+                    sub.Indicadores(i).Clave = Unir({"I", std::to_string(i), ks});
                 }
             }
         }

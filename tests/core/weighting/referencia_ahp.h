@@ -3,6 +3,8 @@
 // An exact reference for the weights: the same definitions carried out in fractions, so that
 // each floating-point figure is checked against its true value.
 
+#include "core/core/comunes.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -52,8 +54,8 @@ struct Fraccion {
     }
     std::string Texto00() const {
         const long long k = Centesimas(), a = k < 0 ? -k : k;
-        return (k < 0 ? "-" : "") + std::to_string(a / 100) + "." +
-               std::to_string(100 + a % 100).substr(1);
+        return Unir({k < 0 ? "-" : "", std::to_string(a / 100), ".",
+                     std::to_string(100 + a % 100).substr(1)});
     }
 };
 

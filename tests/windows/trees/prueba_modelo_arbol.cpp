@@ -1,3 +1,4 @@
+#include "core/core/comunes.h"
 #include "core/trees/edicion_requerimientos.h"
 #include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
@@ -32,9 +33,9 @@ protected:
         std::string texto;
         for (int fila = 0; fila < modelo.rowCount(padre); ++fila) {
             const QModelIndex hijo = modelo.index(fila, 0, padre);
-            texto += (fila > 0 ? "," : "") + hijo.data().toString().toStdString();
+            texto += Unir({fila > 0 ? "," : "", hijo.data().toString().toStdString()});
             if (modelo.rowCount(hijo) > 0) {
-                texto += "[" + Filas(hijo) + "]";
+                texto += Unir({"[", Filas(hijo), "]"});
             }
         }
         return texto;

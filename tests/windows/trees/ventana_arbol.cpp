@@ -1,4 +1,5 @@
 #include "ventana_arbol.h"
+#include "core/core/comunes.h"
 
 #include "windows/trees/modelo_arbol.h"
 
@@ -63,8 +64,8 @@ std::string VentanaArbol::Entradas(const QMenu& menu) {
             texto += " ";
         }
         texto += accion->isSeparator()
-                     ? "|"
-                     : (accion->isEnabled() ? "" : "~") + accion->objectName().toStdString();
+                     ? std::string("|")
+                     : Unir({accion->isEnabled() ? "" : "~", accion->objectName().toStdString()});
     }
     return texto;
 }
@@ -113,9 +114,9 @@ std::string Rama(const QAbstractItemModel& modelo, const QModelIndex& padre) {
     std::string texto;
     for (int fila = 0; fila < modelo.rowCount(padre); ++fila) {
         const QModelIndex hijo = modelo.index(fila, 0, padre);
-        texto += (fila > 0 ? "," : "") + hijo.data().toString().toStdString();
+        texto += Unir({fila > 0 ? "," : "", hijo.data().toString().toStdString()});
         if (modelo.rowCount(hijo) > 0) {
-            texto += "[" + Rama(modelo, hijo) + "]";
+            texto += Unir({"[", Rama(modelo, hijo), "]"});
         }
     }
     return texto;
