@@ -10,7 +10,7 @@
 #include "windows/core/modal.h"
 #include "windows/core/texto.h"
 #include "windows/functions/arriba_abajo.h"
-#include "windows/functions/modelo_intervalos.h"
+#include "windows/functions/modelo_tabla.h"
 #include "windows/functions/panel_optativos.h"
 #include "windows/functions/panel_puntuacion.h"
 #include "windows/functions/pintar_grafica.h"

@@ -22,7 +22,7 @@ namespace vadro {
 
 class ArribaAbajo;
 class LienzoGrafica;
-class ModeloIntervalos;
+class ModeloTabla;
 class PanelOptativos;
 class PanelPuntuacion;
 
@@ -93,7 +93,7 @@ public:
     ArribaAbajo* updIntervalos;
     QTableView* grdIntervalos;
     QLineEdit* txtValor;
-    ModeloIntervalos* modeloIntervalos;
+    ModeloTabla* modeloIntervalos;
 
 protected:
     void done(int resultado) override;

@@ -3,7 +3,7 @@
 #include "windows/core/texto.h"
 #include "windows/functions/arriba_abajo.h"
 #include "windows/functions/frmFuncionValor.h"
-#include "windows/functions/modelo_intervalos.h"
+#include "windows/functions/modelo_tabla.h"
 #include "windows/functions/panel_optativos.h"
 #include "windows/functions/panel_puntuacion.h"
 #include "windows/functions/pintar_grafica.h"
@@ -220,7 +220,7 @@ QWidget* frmFuncionValor::ConstruirEscalon() {
 
     grdIntervalos = new QTableView(fmeEscalon);
     grdIntervalos->setObjectName(Q("grdIntervalos"));
-    modeloIntervalos = new ModeloIntervalos(editor, grdIntervalos);
+    modeloIntervalos = new ModeloTabla(editor, grdIntervalos);
     grdIntervalos->setModel(modeloIntervalos);
     grdIntervalos->verticalHeader()->hide();
     grdIntervalos->setSelectionMode(QAbstractItemView::SingleSelection);

@@ -7,33 +7,70 @@
 
 namespace vadro {
 
+namespace {
+
+const std::string kCabecerasIntervalos[] = {"Id", "Desde...", "... hasta ...", "Valor R(x)"};
+
+std::size_t Pos(int i) {
+    return static_cast<std::size_t>(i);
+}
+
+} // namespace
+
+ModeloTabla::ModeloTabla(Fuente fuente, QObject* padre)
+    : QAbstractTableModel(padre), fuente_(std::move(fuente)), filas_(fuente_.filas()) {}
+
 ModeloTabla::ModeloTabla(const TablaEdicion& tabla, QObject* padre)
-    : QAbstractTableModel(padre), tabla_(tabla), filas_(static_cast<int>(tabla.Filas.size())) {}
+    : ModeloTabla(Fuente{[&tabla] { return static_cast<int>(tabla.Filas.size()); },
+                         [&tabla] { return tabla.Columnas(); },
+                         [&tabla](int fila, int columna) -> const std::string& {
+                             return tabla.Celda(fila + 1, columna);
+                         },
+                         [&tabla](int columna) -> const std::string& {
+                             return tabla.Cabeceras[Pos(columna)];
+                         },
+                         [&tabla](int fila, int columna) -> std::optional<Color> {
+                             return tabla.Fondo(fila + 1, columna);
+                         },
+                         [&tabla] { return tabla.ConId; }},
+                  padre) {}
+
+ModeloTabla::ModeloTabla(const EditorFuncion& editor, QObject* padre)
+    : ModeloTabla(
+          Fuente{[&editor] { return static_cast<int>(editor.Filas.size()); }, [] { return 4; },
+                 [&editor](int fila, int columna) -> const std::string& {
+                     return editor.Filas[Pos(fila)][Pos(columna)];
+                 },
+                 [](int columna) -> const std::string& { return kCabecerasIntervalos[columna]; },
+                 [](int, int) -> std::optional<Color> { return std::nullopt; },
+                 [] { return true; }},
+          padre) {}
 
 int ModeloTabla::rowCount(const QModelIndex& padre) const {
     return padre.isValid() ? 0 : filas_;
 }
 
 int ModeloTabla::columnCount(const QModelIndex& padre) const {
-    return padre.isValid() ? 0 : tabla_.Columnas();
+    return padre.isValid() ? 0 : fuente_.columnas();
 }
 
 QVariant ModeloTabla::data(const QModelIndex& indice, int papel) const {
-    if (!indice.isValid() || indice.row() >= static_cast<int>(tabla_.Filas.size())) {
+    if (!indice.isValid() || indice.row() >= fuente_.filas()) {
         return {};
     }
-    const int fila = indice.row() + 1;
     switch (papel) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-        return Q(tabla_.Celda(fila, indice.column()));
-    case Qt::BackgroundRole: {
-        const Color color = tabla_.Fondo(fila, indice.column());
-        return QBrush(QColor(static_cast<int>(color & 0xFF), static_cast<int>((color >> 8) & 0xFF),
-                             static_cast<int>((color >> 16) & 0xFF)));
-    }
+        return Q(fuente_.celda(indice.row(), indice.column()));
+    case Qt::BackgroundRole:
+        if (const std::optional<Color> color = fuente_.fondo(indice.row(), indice.column())) {
+            return QBrush(QColor(static_cast<int>(*color & 0xFF),
+                                 static_cast<int>((*color >> 8) & 0xFF),
+                                 static_cast<int>((*color >> 16) & 0xFF)));
+        }
+        break;
     case Qt::TextAlignmentRole:
-        if (tabla_.ConId && indice.column() == 0) {
+        if (fuente_.conId() && indice.column() == 0) {
             return QVariant::fromValue(Qt::AlignCenter);
         }
         break;
@@ -45,8 +82,8 @@ QVariant ModeloTabla::data(const QModelIndex& indice, int papel) const {
 
 QVariant ModeloTabla::headerData(int seccion, Qt::Orientation orientacion, int papel) const {
     if (orientacion == Qt::Horizontal && papel == Qt::DisplayRole && seccion >= 0 &&
-        seccion < tabla_.Columnas()) {
-        return Q(tabla_.Cabeceras[static_cast<std::size_t>(seccion)]);
+        seccion < fuente_.columnas()) {
+        return Q(fuente_.cabecera(seccion));
     }
     return QAbstractTableModel::headerData(seccion, orientacion, papel);
 }
@@ -60,13 +97,13 @@ Qt::ItemFlags ModeloTabla::flags(const QModelIndex& indice) const {
 }
 
 void ModeloTabla::Refrescar() {
-    const int filas = static_cast<int>(tabla_.Filas.size());
+    const int filas = fuente_.filas();
     if (filas != filas_) {
         beginResetModel();
         filas_ = filas;
         endResetModel();
     } else if (filas_ > 0) {
-        emit dataChanged(index(0, 0), index(filas_ - 1, tabla_.Columnas() - 1));
+        emit dataChanged(index(0, 0), index(filas_ - 1, fuente_.columnas() - 1));
     }
 }
 

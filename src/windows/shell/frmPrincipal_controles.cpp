@@ -24,6 +24,8 @@
 #include "windows/weighting/frmPreguntarPonderacion.h"
 
 #include <algorithm>
+#include <array>
+#include <string>
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -86,6 +88,17 @@ QAction* Entrada(QMenu* menu, const char* nombre, const char* texto) {
     QAction* accion = menu->addAction(Q(texto));
     accion->setObjectName(Q(nombre));
     return accion;
+}
+
+// The three parts of the model a file can bring in or take out, named after their submenu.
+void PartesModelo(QMenu* menu, const std::array<QAction**, 3>& entradas) {
+    static const char* const kPartes[][2] = {{"R", "Arbol de &requerimientos"},
+                                             {"Comp", "Arbol de c&omponentes"},
+                                             {"Etapas", "&Etapas del ciclo de vida"}};
+    for (std::size_t i = 0; i < entradas.size(); ++i) {
+        const std::string nombre = ACadena(menu->objectName()) + kPartes[i][0];
+        *entradas[i] = Entrada(menu, nombre.c_str(), kPartes[i][1]);
+    }
 }
 
 QAction* Separador(QMenu* menu, const char* nombre) {
@@ -276,13 +289,9 @@ void frmPrincipal::CrearMenus() {
 
     mnuModelo = Menu(barra, "mnuModelo", "&Modelo");
     mnuImportar = Submenu(mnuModelo, "mnuImportar", "I&mportar");
-    mnuImportarR = Entrada(mnuImportar, "mnuImportarR", "Arbol de &requerimientos");
-    mnuImportarComp = Entrada(mnuImportar, "mnuImportarComp", "Arbol de c&omponentes");
-    mnuImportarEtapas = Entrada(mnuImportar, "mnuImportarEtapas", "&Etapas del ciclo de vida");
+    PartesModelo(mnuImportar, {&mnuImportarR, &mnuImportarComp, &mnuImportarEtapas});
     mnuExportar = Submenu(mnuModelo, "mnuExportar", "E&xportar");
-    mnuExportarR = Entrada(mnuExportar, "mnuExportarR", "Arbol de &requerimientos");
-    mnuExportarComp = Entrada(mnuExportar, "mnuExportarComp", "Arbol de c&omponentes");
-    mnuExportarEtapas = Entrada(mnuExportar, "mnuExportarEtapas", "&Etapas del ciclo de vida");
+    PartesModelo(mnuExportar, {&mnuExportarR, &mnuExportarComp, &mnuExportarEtapas});
     mnuModelo->addSeparator();
     mnuPermitirSubcriterios =
         Entrada(mnuModelo, "mnuPermitirSubcriterios", "Permitir &subcriterios");
