@@ -1,4 +1,5 @@
 #include "core/core/ini.h"
+#include "editor_abierto.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/guion_modales.h"
 #include "soporte/modelo_sano.h"
@@ -27,23 +28,8 @@ namespace {
 
 using pruebas::Hijo;
 
-class VentanaFuncion : public pruebas::PruebaSesion {
+class VentanaFuncion : public pruebas::EditorAbierto {
 protected:
-    VentanaFuncion() {
-        sesion().NodosEdicion.Redimensionar(1);
-        sesion().MostrarAvisoFuncionValor = false;
-    }
-
-    frmFuncionValor& Abrir(const FuncionValor& funcion) {
-        sesion().NodosEdicion(1).Funcion = funcion;
-        ventana = std::make_unique<frmFuncionValor>(sesion().NodosEdicion(1).Funcion, "Coste");
-        ventana->show();
-        ventana->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
-        return *ventana;
-    }
-    const FuncionValor& Registro() { return sesion().NodosEdicion(1).Funcion; }
-
     QLineEdit* Entrada(const char* nombre) { return Hijo<QLineEdit>(*ventana, nombre); }
     QString Etiqueta(const char* nombre) { return Hijo<QLabel>(*ventana, nombre)->text(); }
     // Types into an input in place of its text, as a user who selected it all.
@@ -80,8 +66,6 @@ protected:
         return ventana->grdIntervalos->model()->index(fila - 1, columna).data().toString();
     }
     void Aceptar() { QTest::mouseClick(ventana->cmdAceptar, Qt::LeftButton); }
-
-    std::unique_ptr<frmFuncionValor> ventana;
 };
 
 TEST_F(VentanaFuncion, ANewFunctionShowsTheNoticeAtOnceAndItsOptionLastsTheSession) {

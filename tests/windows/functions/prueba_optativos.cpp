@@ -1,4 +1,5 @@
 // The function editor's optional indicators and scoring elements, worked as a user works them.
+#include "editor_abierto.h"
 #include "soporte/guion_modales.h"
 #include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
@@ -93,22 +94,8 @@ frmFuncionValor& Segunda(QDialog& d) {
     return static_cast<frmFuncionValor&>(d);
 }
 
-class Optativos : public pruebas::PruebaSesion {
+class Optativos : public pruebas::EditorAbierto {
 protected:
-    Optativos() {
-        sesion().NodosEdicion.Redimensionar(1);
-        sesion().MostrarAvisoFuncionValor = false;
-    }
-
-    frmFuncionValor& Abrir(const FuncionValor& funcion) {
-        sesion().NodosEdicion(1).Funcion = funcion;
-        ventana = std::make_unique<frmFuncionValor>(sesion().NodosEdicion(1).Funcion, "Coste");
-        ventana->show();
-        ventana->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
-        return *ventana;
-    }
-    const FuncionValor& Registro() { return sesion().NodosEdicion(1).Funcion; }
     PanelOptativos& Panel() { return *ventana->pctOptativos; }
     PanelPuntuacion& Tablas() { return *ventana->pctTablas; }
     void Optativo(int fila, const QString& texto) {
@@ -121,8 +108,6 @@ protected:
     }
     void DobleClickGrafica() { QTest::mouseDClick(Panel().pctGraficaOptativos, Qt::LeftButton); }
     void Aceptar() { QTest::mouseClick(ventana->cmdAceptar, Qt::LeftButton); }
-
-    std::unique_ptr<frmFuncionValor> ventana;
 };
 
 TEST_F(Optativos, ThreeIndicatorsTwoSelectableEachWithItsFunction) {
