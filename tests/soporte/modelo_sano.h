@@ -176,4 +176,21 @@ inline Modelo ModeloGenerado(int indicadores, int primerConjunto = 0) {
     return ModeloCon(std::move(requerimientos));
 }
 
+// Every field of a model's identity filled, with letters of the Western code page.
+inline void PonerIdentidad(Modelo& m) {
+    m.Aplicacion = "1.0.0";
+    m.Nombre = "Depuradora de Añón";
+    m.Fecha = "22/11/2026";
+    m.Autor = "Begoña";
+    m.Version = "3";
+    m.Localizacion = "Zaragoza";
+    m.Referencia = "REF-1";
+    m.Descripcion = "Evaluación € ampliación";
+    m.ArchivoCompilado = "C:\\modelos\\a.vdc";
+    m.EjeX = "Tiempo";
+    m.EjeY = "Requerimientos";
+    m.EjeZ = "Componentes";
+    m.PermisoUsuarioVer = true;
+}
+
 } // namespace vadro::pruebas

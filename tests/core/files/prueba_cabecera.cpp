@@ -3,6 +3,7 @@
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
 #include "soporte/errores.h"
+#include "soporte/modelo_sano.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
@@ -18,19 +19,7 @@ protected:
 
     static Modelo ModeloCompleto() {
         Modelo m;
-        m.Aplicacion = "1.0.0";
-        m.Nombre = "Depuradora de Añón";
-        m.Fecha = "22/11/2026";
-        m.Autor = "Begoña";
-        m.Version = "3";
-        m.Localizacion = "Zaragoza";
-        m.Referencia = "REF-1";
-        m.Descripcion = "Evaluación € ampliación";
-        m.ArchivoCompilado = "C:\\modelos\\a.vdc";
-        m.EjeX = "Tiempo";
-        m.EjeY = "Requerimientos";
-        m.EjeZ = "Componentes";
-        m.PermisoUsuarioVer = true;
+        pruebas::PonerIdentidad(m);
         m.NumRequerimientos = 0; // an empty count is written as 0, and reads back so
         m.NumComponentes = 0;
         m.NumEtapas = 0;

@@ -41,19 +41,7 @@ NodoIndicador Indicador(const std::string& clave, ValorLibre peso, FuncionValor 
 // with and without options, stages; keys as a load rebuilds them.
 Modelo ModeloCompleto() {
     Modelo m;
-    m.Aplicacion = "1.0.0";
-    m.Nombre = "Depuradora de Añón";
-    m.Fecha = "22/11/2026";
-    m.Autor = "Begoña";
-    m.Version = "3";
-    m.Localizacion = "Zaragoza";
-    m.Referencia = "REF-1";
-    m.Descripcion = "Evaluación € ampliación";
-    m.ArchivoCompilado = "C:\\modelos\\a.vdc";
-    m.EjeX = "Tiempo";
-    m.EjeY = "Requerimientos";
-    m.EjeZ = "Componentes";
-    m.PermisoUsuarioVer = true;
+    PonerIdentidad(m);
     PonerComponentes(m, {{"Bombas", {"Motor"}}, {"Tuberías", {}}});
     PonerEtapas(m, {"Diseño", "Obra"});
     m.NumRequerimientos = 1;
