@@ -182,7 +182,7 @@ inline void PonerIdentidad(Modelo& m) {
     m.Nombre = "Depuradora de Añón";
     m.Fecha = "22/11/2026";
     m.Autor = "Begoña";
-    m.Version = "3";
+    m.Version = std::string("3");
     m.Localizacion = "Zaragoza";
     m.Referencia = "REF-1";
     m.Descripcion = "Evaluación € ampliación";

@@ -52,7 +52,7 @@ TEST_F(Cabecera, EqualsSignsInValuesFollowTheLastEqualsRule) {
 TEST_F(Cabecera, AValueWithALineBreakIsCutAtItsFirstLine) {
     Modelo m;
     m.Descripcion = "primera\nsegunda";
-    m.Referencia = "R";
+    m.Referencia = std::string("R");
     GuardarModelo(m, ruta, false);
     const auto lineas = LineasDelArchivo();
     EXPECT_EQ(lineas.at(8), "MOD_DSC = primera");
