@@ -43,4 +43,18 @@ private:
     FuncionMensajes anterior_;
 };
 
+// One case of a table kept in a data file: the input of a transcript row as written, and its
+// fields. Fields are separated by blanks; a field in single quotes may hold blanks or be empty
+// ('' is the empty text), and "\n" and "\r" stand for line breaks.
+struct Caso {
+    std::string texto;
+    std::vector<std::string> campos;
+};
+
+// The cases of the transcript in tests/datos/<datos>, in their order: the test works each one,
+// writes its row with `caso.texto` as the input, and compares the whole transcript with the same
+// file. So the table of inputs and their expected outcomes is one data file. A file that cannot
+// be read, or holds no case, fails the test.
+std::vector<Caso> Casos(const std::string& datos);
+
 } // namespace vadro::pruebas

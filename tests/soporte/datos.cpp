@@ -28,11 +28,15 @@ std::string Datos(const std::string& nombre, const std::string& real) {
         std::ofstream(ruta, std::ios::binary) << real;
         return real;
     }
-    std::ifstream archivo(ruta, std::ios::binary);
+    return LeerDatos(nombre).value_or("<no data file " + ruta.string() + ">");
+}
+
+std::optional<std::string> LeerDatos(const std::string& nombre) {
+    std::ifstream archivo(RutaDatos(nombre), std::ios::binary);
     if (!archivo) {
-        return "<no data file " + ruta.string() + ">";
+        return std::nullopt;
     }
-    return {std::istreambuf_iterator<char>(archivo), std::istreambuf_iterator<char>()};
+    return std::string(std::istreambuf_iterator<char>(archivo), std::istreambuf_iterator<char>());
 }
 
 } // namespace vadro::pruebas

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace vadro::pruebas {
@@ -9,5 +10,8 @@ namespace vadro::pruebas {
 // each file is then rewritten from the actual text, which comes back, and the new data must be
 // read before it is committed. A missing data file reads as a note that says so.
 std::string Datos(const std::string& nombre, const std::string& real);
+
+// The data file tests/datos/<nombre> as it stands, or nothing when it cannot be read.
+std::optional<std::string> LeerDatos(const std::string& nombre);
 
 } // namespace vadro::pruebas

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iomanip>
 #include <sstream>
 
@@ -62,6 +63,11 @@ std::string Nombre(Campo campo) {
     return kCampos[static_cast<int>(campo)];
 }
 
+Campo DeNombre(const std::string& nombre) {
+    const auto* campo = std::find(std::begin(kCampos), std::end(kCampos), nombre);
+    return static_cast<Campo>(campo - std::begin(kCampos));
+}
+
 // A figure to twelve significant digits, enough to tell any plausible slip.
 std::string Formato(double valor) {
     std::ostringstream texto;
@@ -94,18 +100,13 @@ TEST_F(Editor, TheShapeParametersTakeOnlyNumbersWithinTheirBounds) {
     sesion().MostrarAvisoFuncionValor = false;
     Limites("", "", "0", "10");
     editor.ActualizarLimites();
-    const std::pair<Campo, const char*> casos[] = {
-        {Campo::K, "0.5"}, {Campo::K, "0.5x"}, {Campo::K, ""},    {Campo::K, "3"},
-        {Campo::K, "-1"},  {Campo::C, "11"},   {Campo::C, "abc"}, {Campo::P, "250"},
-        {Campo::P, "-2"},  {Campo::P, "1,5"},
-    };
     Acta acta;
-    for (const auto& [campo, texto] : casos) {
+    for (const pruebas::Caso& caso : pruebas::Casos("editor_funcion/parametros.txt")) {
+        const Campo campo = DeNombre(caso.campos.at(0));
         sesion().modelo.Modificado = false;
         const int dibujos = editor.Dibujos;
-        editor.Cambio(campo, texto);
-        acta.Fila(Nombre(campo) + " '" + texto + "'",
-                  "'" + editor.Texto(campo) + "'" +
+        editor.Cambio(campo, caso.campos.at(1));
+        acta.Fila(caso.texto, "'" + editor.Texto(campo) + "'" +
                       (sesion().modelo.Modificado ? ", modified" : "") + ", " +
                       std::to_string(editor.Dibujos - dibujos) + " drawn");
     }
