@@ -2,12 +2,15 @@
 // keys, and the rules behind the findings.
 
 #include "core/compilation/comprobaciones.h"
+#include "soporte/acta.h"
 #include "soporte/datos.h"
 #include "soporte/modelo_sano.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
+#include <type_traits>
 
 namespace vadro {
 namespace {
@@ -25,38 +28,31 @@ std::string Seccion(const Comprobacion& comprobacion, const Modelo& modelo) {
     return TextoInforme(informe, true);
 }
 
-TEST(ComprobacionesDeCuenta, AnEmptyZeroOrNegativeCountIsAFindingInsteadOfTheAllClear) {
-    struct Caso {
-        Comprobacion comprobacion;
-        ValorLibre Modelo::*cuenta;
-        std::string encabezado;
-        std::string hallazgo;
-    };
-    const std::vector<Caso> casos = {
-        {ComprobarExistenciaEtapas, &Modelo::NumEtapas, "COMPROBACION DEL CICLO DE VIDA",
-         "     Aviso: no se han definido etapas del ciclo de vida\tSinEta"},
-        {ComprobarExistenciaComponentes, &Modelo::NumComponentes,
-         "COMPROBACION DE EXISTENCIA DE COMPONENTES",
-         "     Aviso: no se han definido componentes\tSinCmp"},
-        {ComprobarExistenciaRequerimientos, &Modelo::NumRequerimientos,
-         "COMPROBACION DE EXISTENCIA DE REQUERIMIENTOS",
-         "     Error: no se ha definido arbol de requerimientos\tSinReq"}};
-    for (const Caso& caso : casos) {
-        for (const auto& [cuenta, hay] :
-             std::vector<std::pair<ValorLibre, bool>>{{ValorLibre(), false},
-                                                      {ValorLibre(0), false},
-                                                      {ValorLibre(-1), false},
-                                                      {ValorLibre("0"), false},
-                                                      {ValorLibre(1), true},
-                                                      {ValorLibre(" 2 "), true}}) {
-            Modelo modelo;
-            modelo.*caso.cuenta = cuenta;
-            const std::string cuerpo = hay ? "     <sin errores>\t" : caso.hallazgo;
-            EXPECT_EQ(Seccion(caso.comprobacion, modelo),
-                      caso.encabezado + "\t\n" + cuerpo + "\n\t\n")
-                << cuenta.Texto();
-        }
+// A value of a data file: "x" the text x (in single quotes too when it holds blanks), '' the
+// empty text, anything else a number when it reads as one and a text when it does not.
+ValorLibre Valor(const std::string& campo) {
+    if (campo.starts_with('"')) {
+        return ValorLibre(campo.substr(1, campo.size() - 2));
     }
+    const std::optional<double> numero = LeerNumero(campo);
+    return numero && !campo.empty() ? ValorLibre(*numero) : ValorLibre(campo);
+}
+
+// A count empty, zero or negative, as a number or as a text, is a finding instead of the
+// all-clear.
+TEST(ComprobacionesDeCuenta, AnEmptyZeroOrNegativeCountIsAFindingInsteadOfTheAllClear) {
+    const std::map<std::string, std::pair<Comprobacion, ValorLibre Modelo::*>> comprobaciones = {
+        {"stages", {ComprobarExistenciaEtapas, &Modelo::NumEtapas}},
+        {"components", {ComprobarExistenciaComponentes, &Modelo::NumComponentes}},
+        {"requirements", {ComprobarExistenciaRequerimientos, &Modelo::NumRequerimientos}}};
+    pruebas::Acta acta;
+    for (const pruebas::Caso& caso : pruebas::Casos("comprobaciones/cuentas.txt")) {
+        const auto& [comprobacion, cuenta] = comprobaciones.at(caso.campos.at(0));
+        Modelo modelo;
+        modelo.*cuenta = Valor(caso.campos.at(1));
+        acta.Fila(caso.texto, Seccion(comprobacion, modelo));
+    }
+    acta.Comparar("comprobaciones/cuentas.txt");
 }
 
 // Components and options that share names whatever their case.
@@ -211,117 +207,78 @@ TEST(NombresRepetidos, NamesCompareInUpperCaseAccentsIncluded) {
 
 // ---- value functions
 
-// The texts behind the label that one function gives, in order.
-std::vector<std::string> Hallazgos(const FuncionValor& funcion) {
-    const Modelo modelo =
-        pruebas::ModeloCon({Requerimiento("A", {Criterio("C", {Indicador("i", funcion)})})});
-    InformeErrores informe;
-    ComprobarFuncionValor(modelo, informe);
-    std::vector<std::string> textos;
-    const std::string inicio = "     Error: el nodo I1C1R1";
-    for (std::size_t k = 0; k < informe.Lineas().size(); ++k) {
-        if (informe.Lineas()[k].starts_with(inicio)) {
-            EXPECT_EQ(informe.Claves()[k], "FunVal I1C1R1");
-            textos.push_back(informe.Lineas()[k].substr(inicio.size()));
+template <typename T> void Agregar(Arreglo<T>& arreglo, std::type_identity_t<T> elemento) {
+    arreglo.RedimensionarConservando(arreglo.Tamano() + 1);
+    arreglo(arreglo.Tamano()) = std::move(elemento);
+}
+
+// A function changed by fields of a row of the data file: fields set ("C 0", "Unidades ''",
+// "Tipo 7") and elements added ("step =0 <5 0"; "score 1 Años 0 10 0 1": kind, name, bounds
+// and their scores).
+FuncionValor Con(FuncionValor f, const std::vector<std::string>& campos) {
+    const std::map<std::string, ValorLibre FuncionComun::*> valores = {
+        {"XMin", &FuncionComun::XMin}, {"XMax", &FuncionComun::XMax}, {"RMin", &FuncionComun::RMin},
+        {"RMax", &FuncionComun::RMax}, {"C", &FuncionComun::C},       {"K", &FuncionComun::K},
+        {"P", &FuncionComun::P}};
+    for (std::size_t k = 0; k < campos.size(); k += 2) {
+        const auto valor = [&](std::size_t i) { return Valor(campos.at(k + i)); };
+        if (campos[k] == "Unidades") {
+            f.Unidades = campos.at(k + 1);
+        } else if (campos[k] == "Tipo") {
+            f.Tipo = std::stoi(campos.at(k + 1));
+        } else if (campos[k] == "step") {
+            Agregar(f.Escalones, {valor(1), valor(2), valor(3)});
+            k += 2;
+        } else if (campos[k] == "score") {
+            const int tipo = std::stoi(campos.at(k + 1));
+            Agregar(f.Puntuaciones,
+                    {tipo, campos.at(k + 2), valor(3), valor(4), valor(5), valor(6)});
+            k += 5;
+        } else {
+            f.*valores.at(campos[k]) = valor(1);
         }
-    }
-    return textos;
-}
-
-using Retoque = std::function<void(FuncionValor&)>;
-
-FuncionValor Con(FuncionValor funcion, const Retoque& retoque) {
-    retoque(funcion);
-    return funcion;
-}
-
-const std::string kSinUnidades =
-    " tiene una funcion de valor sin unidades, incompleta o con valores incorrectos";
-const std::string kIncompleta = " tiene una funcion de valor incompleta o con valores incorrectos";
-const std::string kMinimo =
-    " tiene una funcion de valor de tipo escalón con el mínimo diferente de 0";
-const std::string kMaximo =
-    " tiene una funcion de valor de tipo escalón con el máximo diferente de 1";
-const std::string kPuntuacion = " tiene una funcion de valor de tipo 'puntuación' incompleta";
-
-TEST(FuncionesDeValor, EachMissingOrWrongPartSpoilsAContinuousFunctionWithOneText) {
-    const std::vector<Retoque> defectos = {
-        [](FuncionValor& f) { f.Unidades = ""; }, [](FuncionValor& f) { f.C = ""; },
-        [](FuncionValor& f) { f.C = 0.0; },       [](FuncionValor& f) { f.C = "0"; },
-        [](FuncionValor& f) { f.K = ""; },        [](FuncionValor& f) { f.P = ""; },
-        [](FuncionValor& f) { f.RMax = ""; },     [](FuncionValor& f) { f.RMin = ""; },
-        [](FuncionValor& f) { f.RMin = 100.0; }};
-    for (std::size_t k = 0; k < defectos.size(); ++k) {
-        EXPECT_EQ(Hallazgos(Con(pruebas::Continua(), defectos[k])),
-                  std::vector<std::string>{kSinUnidades})
-            << "defect " << k;
-    }
-    const FuncionValor sana = Con(pruebas::Continua(), [](FuncionValor& f) {
-        f.K = 0.0;
-        f.P = 0.0;
-        f.XMin = "";
-        f.XMax = "";
-    });
-    EXPECT_TRUE(Hallazgos(sana).empty()) << "K or P of 0 pass; the limits are not examined";
-}
-
-FuncionValor Escalones(const std::vector<Escalon>& escalones) {
-    FuncionValor f;
-    f.Tipo = FuncionEscalon;
-    f.Unidades = "h";
-    f.RMin = 0.0;
-    f.RMax = 10.0;
-    f.Escalones.Redimensionar(static_cast<int>(escalones.size()));
-    for (std::size_t k = 0; k < escalones.size(); ++k) {
-        f.Escalones(static_cast<int>(k) + 1) = escalones[k];
     }
     return f;
 }
 
-TEST(FuncionesDeValor, AStepFunctionIsCheckedForItsLimitsThenForItsSteps) {
-    using V = std::vector<std::string>;
-    EXPECT_EQ(Hallazgos(Escalones({{"=0", "<5", 0.0}, {"=5", "=10", 1.0}})), V{});
-    EXPECT_EQ(Hallazgos(Escalones({{"=0", "<5", 0.2}, {"=5", "=10", 0.9}})), (V{kMinimo, kMaximo}));
-    EXPECT_EQ(Hallazgos(Escalones({{"=0", "<5", 1.0}, {"=5", "=10", 0.5}})), V{kMinimo});
-    EXPECT_EQ(Hallazgos(Escalones({{"=0", "<5", 0.0}, {"=5", "=10", 1.5}})), V{kMaximo});
-    EXPECT_EQ(Hallazgos(Escalones({{"=0", "<5", 0.5}, {"=5", "", 1.0}})), V{kIncompleta})
-        << "an incomplete step ends the scan before the minimum is looked at";
-    EXPECT_EQ(Hallazgos(Escalones({{}})), V{kIncompleta}) << "no intervals yet";
-    EXPECT_EQ(Hallazgos(Con(Escalones({}), [](FuncionValor& f) { f.Escalones.Borrar(); })),
-              V{kIncompleta});
-    EXPECT_EQ(Hallazgos(Con(Escalones({{"=0", "<5", 0.3}, {"", "=10", 1.0}}),
-                            [](FuncionValor& f) { f.Unidades = ""; })),
-              (V{kSinUnidades, kIncompleta}));
-    EXPECT_EQ(Hallazgos(Con(Escalones({{"=0", "<5", 0.2}, {"=5", "=10", 1.0}}),
-                            [](FuncionValor& f) { f.RMin = f.RMax; })),
-              (V{kSinUnidades, kMinimo}));
-}
-
-TEST(FuncionesDeValor, AScoringFunctionIsAContinuousOneAndEachIncompleteElementOneMoreLine) {
-    FuncionValor f = pruebas::Continua();
-    f.Tipo = FuncionPuntuacion;
-    f.Puntuaciones.Redimensionar(6);
-    f.Puntuaciones(1) = {PuntuacionBooleana, "Tiene licencia", "", "", 0.0, 1.0};
-    f.Puntuaciones(2) = {PuntuacionBooleana, "", "", "", 0.0, 1.0};
-    f.Puntuaciones(3) = {PuntuacionBooleana, "Avalada", 1.0, 2.0, 0.0, ""};
-    f.Puntuaciones(4) = {PuntuacionNumerica, "Años", 0.0, 10.0, 0.0, 1.0};
-    f.Puntuaciones(5) = {PuntuacionNumerica, "Plantilla", 0.0, "", 0.0, 1.0};
-    f.Puntuaciones(6) = {PuntuacionNumerica, "Obras", "", 5.0, 0.0, 1.0};
-    std::vector<std::string> lineas(4, kPuntuacion);
-    EXPECT_EQ(Hallazgos(f), lineas);
-    f.Unidades = "";
-    lineas.insert(lineas.begin(), kSinUnidades);
-    EXPECT_EQ(Hallazgos(f), lineas);
-}
-
-TEST(FuncionesDeValor, OptionalIndicatorsAndUnknownKindsAreTakenAsTheyStand) {
-    for (int32_t tipo : {static_cast<int32_t>(FuncionOptativos), 7, -1}) {
-        FuncionValor f;
-        f.Tipo = tipo;
-        EXPECT_TRUE(Hallazgos(f).empty()) << tipo;
+// The texts behind the label that the function of a row gives, in order. Its base is
+// "continuous", a sound continuous function; "scoring", the same of the scoring kind;
+// "steps", a step function with units and results from 0 to 10 but no steps yet; or "none".
+std::string Hallazgos(const std::vector<std::string>& campos) {
+    const std::string& base = campos.at(0);
+    FuncionValor funcion = base == "none" ? FuncionValor{} : pruebas::Continua();
+    funcion.Tipo = base == "scoring" ? FuncionPuntuacion : funcion.Tipo;
+    if (base == "steps") {
+        funcion = Con({}, {"Tipo", std::to_string(FuncionEscalon), "Unidades", "h", "RMin", "0",
+                           "RMax", "10"});
     }
-    EXPECT_EQ(Hallazgos(FuncionValor{}),
-              std::vector<std::string>{" no tiene funcion de valor asignada"});
+    funcion = Con(funcion, {campos.begin() + 1, campos.end()});
+    const Modelo modelo =
+        pruebas::ModeloCon({Requerimiento("A", {Criterio("C", {Indicador("i", funcion)})})});
+    InformeErrores informe;
+    ComprobarFuncionValor(modelo, informe);
+    std::string textos;
+    const std::string error = "     Error: ";
+    for (std::size_t k = 0; k < informe.Lineas().size(); ++k) {
+        if (informe.Lineas()[k].starts_with(error + "el nodo I1C1R1")) {
+            EXPECT_EQ(informe.Claves()[k], "FunVal I1C1R1");
+            textos += (textos.empty() ? "" : " | ") + informe.Lineas()[k].substr(error.size());
+        }
+    }
+    return textos.empty() ? "(none)" : textos;
+}
+
+// Each part of a continuous function spoils it with one text (K or P of 0 pass, the limits are
+// not examined); a step function is checked for its limits, then for its steps, an incomplete
+// step ending the scan before the minimum is looked at; a scoring function is a continuous one
+// and each incomplete element one more line; optional indicators and unknown kinds are taken
+// as they stand.
+TEST(FuncionesDeValor, EachFunctionGivesTheTextsOfTheDataFile) {
+    pruebas::Acta acta;
+    for (const pruebas::Caso& caso : pruebas::Casos("comprobaciones/funciones_valor.txt")) {
+        acta.Fila(caso.texto, Hallazgos(caso.campos));
+    }
+    acta.Comparar("comprobaciones/funciones_valor.txt");
 }
 
 TEST(RamasIncompletas, TheSubcriteriaLevelNeedsARealSubcriterionAsWellAsTheSetting) {
