@@ -19,20 +19,13 @@ protected:
     Compilado() {
         std::filesystem::create_directories(Ruta("modelos"));
         sesion().modelo.Nombre = "Depuradora";
-        sesion().modelo.Modificado = true;
     }
-    const std::string kTitulo = "Guardar modelo compilado como...";
-    const std::string kCorrecta = "VADRO PROGRAMADOR: compilación correcta";
-    std::string Aviso(const std::string& ruta) {
-        return "Se ha creado el archivo compilado " + ruta +
-               "\nEste archivo será utilizable por el módulo VADRO USUARIO.";
-    }
-    pruebas::GuionDialogos dialogos;
 };
 
 // Where the save dialog of the compiled file opens (the program directory for a new model; an
 // existing compiled file by folder and base name; a vanished one falls back to the model's own
-// path), and what is written and told for each answer.
+// path), and what is written and told for each answer. The file written is scrambled and names
+// itself.
 TEST_F(Compilado, TheDialogTheFileAndTheNotice) {
     Escribir(Ruta("modelos/previo.vdc"), "x");
     Escribir(Ruta("modelos/m.vdm"), "x");
@@ -55,9 +48,12 @@ TEST_F(Compilado, TheDialogTheFileAndTheNotice) {
         m.Compilado = false;
         m.Modificado = true;
         pruebas::GuionDialogos guion;
-        c.elegido ? guion.Elegir(kTitulo, Ruta(c.elegido)) : guion.Cancelar(kTitulo);
+        const std::string titulo = "Guardar modelo compilado como...";
+        c.elegido ? guion.Elegir(titulo, Ruta(c.elegido)) : guion.Cancelar(titulo);
         const bool escrito = EscribirCompilado(sesion());
         const PeticionDialogo& p = guion.Peticiones().at(0);
+        EXPECT_EQ(p.filtro, "Archivos compilados (*.vdc)|*.vdc|Todos los archivos (*.*)|*.*");
+        EXPECT_NE(p.flags & DlgPreguntarSobrescribir, 0);
         acta.Fila(std::string("compiled '") + c.compilado + "', model '" + c.archivo +
                       "', chosen '" + (c.elegido ? c.elegido : "(cancel)") + "'",
                   "dialog in '" + p.directorioInicial + "' named '" + p.nombreArchivo + "'; " +
@@ -67,21 +63,13 @@ TEST_F(Compilado, TheDialogTheFileAndTheNotice) {
     }
     acta.sustituciones = {{Directorio(), "<programa>"}};
     acta.Comparar("archivos/compilado.txt");
-}
-
-TEST_F(Compilado, TheFileIsWrittenScrambledAndNamesItself) {
     const std::string ruta = Ruta("modelos/d.vdc");
-    dialogos.Elegir(kTitulo, ruta);
-    mensajes.Esperar(kCorrecta, Aviso(ruta));
-    ASSERT_TRUE(EscribirCompilado(sesion()));
-    const PeticionDialogo& p = dialogos.Peticiones().at(0);
-    EXPECT_EQ(p.filtro, "Archivos compilados (*.vdc)|*.vdc|Todos los archivos (*.*)|*.*");
-    EXPECT_NE(p.flags & DlgPreguntarSobrescribir, 0);
     EXPECT_EQ(sesion().modelo.Aplicacion, VersionPrograma());
     const auto lineas = LineasPlanas(Contenido(ruta));
     EXPECT_EQ(lineas.at(1), "MOD_APL = " + VersionPrograma());
     EXPECT_EQ(lineas.at(9), "MOD_FCP = " + ruta) << "the file names itself";
     EXPECT_NE(Contenido(ruta).substr(0, 5), "*****");
 }
+
 } // namespace
 } // namespace vadro
