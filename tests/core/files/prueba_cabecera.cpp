@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <tuple>
 
 namespace vadro {
 namespace {
@@ -36,53 +37,39 @@ TEST_F(Cabecera, AnEmptyModelWritesEmptyValues) {
     EXPECT_EQ(salida.Lineas().back(), "MOD_PERM_USU_VER = Falso");
 }
 
-TEST_F(Cabecera, EqualsSignsInValuesFollowTheLastEqualsRule) {
+// Values with equals signs follow the last-equals rule; a value with a line break is cut at
+// its first line, each piece coded from the start of the key.
+TEST_F(Cabecera, ValuesWithEqualsSignsAndLineBreaks) {
     Modelo m;
     m.Nombre = "a=b";
     m.Descripcion = "termina en=";
     m.Autor = "  blancos  ";
+    m.Referencia = std::string("primera\nsegunda");
     GuardarModelo(m, ruta, false);
+    EXPECT_EQ(LineasDelArchivo().at(7), "MOD_REF = primera");
+    EXPECT_EQ(LineasDelArchivo().at(8), "segunda");
     Modelo leido;
     CargarModelo(leido, ruta);
     EXPECT_EQ(leido.Nombre, "b") << "what stands before the last = is lost";
     EXPECT_EQ(leido.Descripcion, "termina en=") << "a final = is kept";
     EXPECT_EQ(leido.Autor, "blancos");
+    EXPECT_EQ(leido.Referencia, "primera");
 }
 
-TEST_F(Cabecera, AValueWithALineBreakIsCutAtItsFirstLine) {
-    Modelo m;
-    m.Descripcion = "primera\nsegunda";
-    m.Referencia = std::string("R");
-    GuardarModelo(m, ruta, false);
-    const auto lineas = LineasDelArchivo();
-    EXPECT_EQ(lineas.at(8), "MOD_DSC = primera");
-    EXPECT_EQ(lineas.at(9), "segunda") << "each piece is coded from the start of the key";
-    Modelo leido;
-    CargarModelo(leido, ruta);
-    EXPECT_EQ(leido.Descripcion, "primera");
-    EXPECT_EQ(leido.Referencia, "R");
-}
-
-TEST_F(Cabecera, PlainTextLoadsAndUnknownKeysAreSkipped) {
-    Escribir(ruta, "*****MODELO*****\r\nMOD_APL = 2.1.0\r\nMOD_EXTRA = x\r\nMOD_NOM = Plano\r\n"
-                   "OTRA COSA\r\nMOD_PERM_USU_VER = True\r\n");
-    Modelo m;
-    CargarModelo(m, ruta);
-    EXPECT_EQ(m.Aplicacion, "2.1.0");
-    EXPECT_EQ(m.Nombre, "Plano");
-    EXPECT_EQ(m.EjeX, "");
-    EXPECT_TRUE(m.PermisoUsuarioVer);
-    EXPECT_EQ(Contenido(ruta).substr(0, 5), "*****") << "a reader leaves the plain file untouched";
-}
-
-TEST_F(Cabecera, PermissionIsTrueOnlyForVerdaderoOrTrue) {
+// Plain text loads as it stands, unknown keys skipped, and the permission is true only for
+// "Verdadero" or "True".
+TEST_F(Cabecera, PlainTextLoadsAndThePermissionIsTrueOnlyForVerdaderoOrTrue) {
     for (const auto& [texto, esperado] : std::vector<std::pair<std::string, bool>>{
              {"Verdadero", true}, {"True", true}, {"true", false}, {"Sí", false}, {"", false}}) {
-        Escribir(ruta, "*****MODELO*****\r\nMOD_PERM_USU_VER = " + texto + "\r\n");
+        Escribir(ruta, "*****MODELO*****\r\nMOD_APL = 2.1.0\r\nMOD_EXTRA = x\r\nMOD_NOM = Plano\r\n"
+                       "OTRA COSA\r\nMOD_PERM_USU_VER = " +
+                           texto + "\r\n");
         Modelo m;
         CargarModelo(m, ruta);
         EXPECT_EQ(m.PermisoUsuarioVer, esperado) << texto;
+        EXPECT_EQ(std::tuple(m.Aplicacion, m.Nombre, m.EjeX), std::tuple("2.1.0", "Plano", ""));
     }
+    EXPECT_EQ(Contenido(ruta).substr(0, 5), "*****") << "a reader leaves the plain file untouched";
 }
 
 TEST_F(Cabecera, AnEmptyOrUnknownFileGivesAnEmptyModel) {
@@ -109,21 +96,18 @@ TEST_F(Cabecera, AMissingFileIsRuntimeError53) {
               ErrArchivoNoEncontrado);
 }
 
-TEST_F(Cabecera, AFailedSaveShowsItsMessageAndKeepsModificado) {
-    Modelo m = ModeloCompleto();
-    m.Modificado = true;
-    mensajes.Esperar("VADRO: Error ",
-                     "Error 76 al guardar el modelo.\n\rNo se encontró la ruta de acceso");
-    GuardarModelo(m, Ruta("no-existe/modelo.vdm"), false);
-    EXPECT_TRUE(m.Modificado);
-}
-
-TEST_F(Cabecera, AFailureHalfwayLeavesThePreviousFileIntact) {
+// A save that fails shows its message, keeps Modificado and leaves the previous file intact,
+// whether it cannot start or fails halfway.
+TEST_F(Cabecera, AFailedSaveShowsItsMessageKeepsModificadoAndThePreviousFile) {
     Modelo m = ModeloCompleto();
     GuardarModelo(m, ruta, false);
     const std::string anterior = Contenido(ruta);
     m.Nombre = "Otro";
     m.Modificado = true;
+    mensajes.Esperar("VADRO: Error ",
+                     "Error 76 al guardar el modelo.\n\rNo se encontró la ruta de acceso");
+    GuardarModelo(m, Ruta("no-existe/modelo.vdm"), false);
+    EXPECT_TRUE(m.Modificado);
     sesion().servicios.durante_escritura = [](const std::string&) {
         throw ErrorEjecucion(ErrDiscoLleno);
     };
