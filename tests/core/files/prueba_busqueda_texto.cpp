@@ -14,21 +14,12 @@ namespace {
 
 // ---- The searcher over bytes, with and without its summary of blocks
 
-struct Caso {
-    std::string texto;
-    std::string buscado;
-    std::size_t desde;
-    std::size_t hasta;
-};
-
 // The first occurrence wholly inside [desde, hasta), by the plain library search.
-std::size_t Esperado(const Caso& c) {
-    const std::size_t hasta = std::min(c.hasta, c.texto.size());
-    if (c.desde > hasta) {
-        return BuscadorTexto::kNoEncontrado;
-    }
-    const auto donde = std::string_view(c.texto).substr(0, hasta).find(c.buscado, c.desde);
-    return donde == std::string_view::npos ? BuscadorTexto::kNoEncontrado : donde;
+std::size_t Esperado(std::string_view texto, std::string_view buscado, std::size_t desde,
+                     std::size_t hasta) {
+    hasta = std::min(hasta, texto.size());
+    const auto donde = desde > hasta ? texto.npos : texto.substr(0, hasta).find(buscado, desde);
+    return donde == texto.npos ? BuscadorTexto::kNoEncontrado : donde;
 }
 
 std::string Aleatorio(std::mt19937& azar, std::size_t largo, std::string_view letras) {
@@ -64,13 +55,12 @@ TEST(BuscadorTexto, TheSummaryOfBlocksFindsWhatAPlainSearchFinds) {
                                        : k % 4 == 1 ? buscado.substr(0, 3 + k % 20)
                                                     : buscado;
             const std::size_t desde = azar() % (texto.size() + 2);
-            const Caso caso{texto, pedido, desde, desde + azar() % (texto.size() + 10)};
+            const std::size_t hasta = desde + azar() % (texto.size() + 10);
             std::size_t leidos = 0;
-            const std::size_t esperado = Esperado(caso);
-            EXPECT_EQ(plano.Buscar(texto, pedido, caso.desde, caso.hasta, leidos), esperado)
-                << vuelta << "/" << k;
-            EXPECT_EQ(resumido.Buscar(texto, pedido, caso.desde, caso.hasta, leidos), esperado)
-                << vuelta << "/" << k;
+            const std::size_t esperado = Esperado(texto, pedido, desde, hasta);
+            SCOPED_TRACE(std::to_string(vuelta) + "/" + std::to_string(k));
+            EXPECT_EQ(plano.Buscar(texto, pedido, desde, hasta, leidos), esperado);
+            EXPECT_EQ(resumido.Buscar(texto, pedido, desde, hasta, leidos), esperado);
         }
     }
 }
