@@ -9,6 +9,7 @@
 
 #include <filesystem>
 #include <regex>
+#include <tuple>
 
 namespace vadro {
 namespace {
@@ -34,23 +35,21 @@ TEST_F(InformeCompilacion, TheFileOpensWithFiveLinesAndThenTheReportAsShown) {
     EXPECT_EQ(bytes, pruebas::Datos("compilacion/informe_vacio.log", bytes));
 }
 
+// A new model is offered the program directory; a saved one its folder and base name. A cancel
+// writes nothing.
 TEST_F(InformeCompilacion, TheDialogProposesTheModelsFolderAndBaseName) {
-    sesion().modelo.Archivo = Ruta("modelos/planta.vdm");
-    dialogos.Cancelar(kTitulo);
-    EXPECT_FALSE(GuardarInformeCompilacion(sesion(), informe));
-    const PeticionDialogo& p = dialogos.Peticiones().at(0);
-    EXPECT_EQ(p.directorioInicial, Ruta("modelos"));
-    EXPECT_EQ(p.nombreArchivo, "planta");
-    EXPECT_EQ(p.filtro, "Archivos compilados (*.log)|*.log|Todos los archivos (*.*)|*.*");
-    EXPECT_EQ(p.indiceFiltro, 1);
+    for (const auto& [archivo, carpeta, nombre] :
+         {std::tuple(std::string(), Directorio(), ""),
+          std::tuple(Ruta("modelos/planta.vdm"), Ruta("modelos"), "planta")}) {
+        sesion().modelo.Archivo = archivo;
+        dialogos.Cancelar(kTitulo);
+        EXPECT_FALSE(GuardarInformeCompilacion(sesion(), informe));
+        const PeticionDialogo& p = dialogos.Peticiones().back();
+        EXPECT_EQ(std::tuple(p.directorioInicial, p.nombreArchivo), std::tuple(carpeta, nombre));
+        EXPECT_EQ(p.filtro, "Archivos compilados (*.log)|*.log|Todos los archivos (*.*)|*.*");
+        EXPECT_EQ(p.indiceFiltro, 1);
+    }
     EXPECT_TRUE(std::filesystem::is_empty(Directorio())) << "a cancel writes nothing";
-}
-
-TEST_F(InformeCompilacion, ANewModelIsOfferedTheProgramDirectory) {
-    dialogos.Cancelar(kTitulo);
-    GuardarInformeCompilacion(sesion(), informe);
-    EXPECT_EQ(dialogos.Peticiones().at(0).directorioInicial, Directorio());
-    EXPECT_EQ(dialogos.Peticiones().at(0).nombreArchivo, "");
 }
 
 } // namespace
