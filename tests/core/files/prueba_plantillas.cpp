@@ -56,7 +56,16 @@ TEST_F(Plantillas, TheFirstDialogOpensOnTheDefaultFolderAndTheChosenFolderIsReme
     EXPECT_EQ(sesion().modelo.Etapas(1), "Explotación");
 }
 
-TEST_F(Plantillas, ImportReplacesOneSectionAndLeavesTheOthers) {
+// A read that fails says so and still remembers the folder; an import replaces its own
+// section and leaves the others; stages read from another kind of template are the single
+// empty entry.
+TEST_F(Plantillas, ImportReplacesOneSectionAndAFailedReadStillRemembersTheFolder) {
+    dialogos.Elegir("Importar componentes", otra + "/no-esta.cmp");
+    mensajes.Esperar("VADRO: Error.", "Fichero no válido o formato de datos incorrecto.\r\n"
+                                      "No se ha podido cargar el árbol de componentes.");
+    EXPECT_TRUE(ImportarComponentes(sesion().modelo));
+    EXPECT_EQ(Directorio("COMPONENTES"), otra);
+    EXPECT_EQ(sesion().modelo.Componentes.Cota(), 1);
     Modelo plantilla;
     pruebas::PonerComponentes(plantilla, {{"Bomba", {}}, {"Válvula", {}}});
     GuardarComponentes(plantilla, otra + "/c.cmp", false);
@@ -65,25 +74,12 @@ TEST_F(Plantillas, ImportReplacesOneSectionAndLeavesTheOthers) {
     EXPECT_EQ(sesion().modelo.NumComponentes, ValorLibre(2.0));
     EXPECT_EQ(sesion().modelo.Componentes(2).Nombre, "Válvula");
     EXPECT_EQ(sesion().modelo.Etapas(1), "Explotación");
-    EXPECT_EQ(Directorio("COMPONENTES"), otra);
-}
-
-TEST_F(Plantillas, StagesReadFromAnotherKindOfTemplateAreTheSingleEmptyEntry) {
     Escribir(otra + "/r.req", "*****REQUERIMIENTOS*****\r\nREQ_NUMR = 0\r\n");
     dialogos.Elegir("Importar etapas", otra + "/r.req");
     ASSERT_TRUE(ImportarEtapas(sesion().modelo));
     EXPECT_EQ(sesion().modelo.NumEtapas, ValorLibre(0.0));
     EXPECT_EQ(sesion().modelo.Etapas.Cota(), 1);
     EXPECT_EQ(sesion().modelo.Etapas(1), "");
-}
-
-TEST_F(Plantillas, TheFolderIsRememberedEvenWhenTheReadFails) {
-    dialogos.Elegir("Importar componentes", otra + "/no-esta.cmp");
-    mensajes.Esperar("VADRO: Error.", "Fichero no válido o formato de datos incorrecto.\r\n"
-                                      "No se ha podido cargar el árbol de componentes.");
-    EXPECT_TRUE(ImportarComponentes(sesion().modelo));
-    EXPECT_EQ(Directorio("COMPONENTES"), otra);
-    EXPECT_EQ(sesion().modelo.Componentes.Cota(), 1);
 }
 
 TEST_F(Plantillas, ARequirementsTemplateReplacesOnlyTheTree) {
@@ -134,15 +130,9 @@ TEST_F(Plantillas, AValueFunctionTemplateIsBoundToNoIndicator) {
     EXPECT_EQ(leida.Tipo, FuncionContinua);
     EXPECT_EQ(leida.Unidades, "m³/h");
     EXPECT_EQ(leida.XMin, ValorLibre("=0"));
-}
 
-TEST_F(Plantillas, AFunctionBlockUnderAnotherKeyReadsEmpty) {
-    FuncionValor deIndicador;
-    deIndicador.Clave = "I1C1R1";
-    deIndicador.Tipo = FuncionContinua;
-    deIndicador.Unidades = "kg";
-    GuardarFuncionValor(deIndicador, otra + "/ajena.fva", false);
-    FuncionValor leida;
+    funcion.Unidades = "kg"; // a block under another key reads empty
+    GuardarFuncionValor(funcion, otra + "/ajena.fva", false);
     dialogos.Elegir("Importar función de valor", otra + "/ajena.fva");
     ASSERT_TRUE(ImportarFuncionValor(leida));
     EXPECT_EQ(leida.Tipo, FuncionNinguna);
