@@ -48,37 +48,29 @@ TEST_F(SalidaCompilacion, TheOutcomeAndTheCompiledFile) {
     conErrores.Requerimientos(1).Peso = "";
     EXPECT_EQ(Desenlace(ComprobarModelo(conErrores)), DesenlaceCompilacion::Incorrecta);
     const std::string ruta = Ruta("depuradora.vdc");
-    enum Dialogo { Ninguno, Elige, Cancela, Falla };
-    struct Caso {
-        const char* caso;
-        bool errores;
-        Respuesta respuesta;
-        Dialogo dialogo;
-    };
-    const Caso casos[] = {{"errors", true, Respuesta::Aceptar, Ninguno},
-                          {"warnings, No", false, Respuesta::No, Ninguno},
-                          {"warnings, Yes, dialog cancelled", false, Respuesta::Si, Cancela},
-                          {"warnings, Yes, dialog failing", false, Respuesta::Si, Falla},
-                          {"warnings, Yes, a file chosen", false, Respuesta::Si, Elige}};
     pruebas::Acta acta;
     acta.iconos = true;
-    for (const Caso& c : casos) {
-        sesion().modelo = c.errores ? conErrores : ConAvisos();
+    for (const pruebas::Caso& caso : pruebas::Casos("compilacion/conclusion.txt")) {
+        const std::vector<std::string>& c = caso.campos; // findings, answer, dialog
+        sesion().modelo = c.at(0) == "errors" ? conErrores : ConAvisos();
         pruebas::GuionDialogos guion;
-        if (c.dialogo == Elige) {
+        const std::string dialogo = c.size() > 2 ? c[2] : "";
+        if (dialogo == "chosen") {
             guion.Elegir(kTituloVdc, ruta);
-        } else if (c.dialogo == Cancela) {
+        } else if (dialogo == "cancelled") {
             guion.Cancelar(kTituloVdc);
-        } else if (c.dialogo == Falla) {
+        } else if (dialogo == "failing") {
             InstalarDialogos([](const PeticionDialogo&) -> std::optional<std::string> {
                 throw ErrorEjecucion(ErrPermiso);
             });
         }
-        acta.respuestas = {c.respuesta};
+        if (c.size() > 1) {
+            acta.respuestas = {c[1] == "Yes" ? Respuesta::Si : Respuesta::No};
+        }
         const bool concluida = Concluir();
-        acta.Fila(c.caso, std::string(concluida ? "done" : "not done") +
-                              (sesion().modelo.Compilado ? ", compiled" : "") +
-                              (fs::is_empty(Directorio()) ? "" : ", a file written"));
+        acta.Fila(caso.texto, std::string(concluida ? "done" : "not done") +
+                                  (sesion().modelo.Compilado ? ", compiled" : "") +
+                                  (fs::is_empty(Directorio()) ? "" : ", a file written"));
     }
     acta.sustituciones = {{Directorio(), "<programa>"}};
     acta.Comparar("compilacion/conclusion.txt");

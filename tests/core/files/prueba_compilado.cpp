@@ -29,37 +29,27 @@ protected:
 TEST_F(Compilado, TheDialogTheFileAndTheNotice) {
     Escribir(Ruta("modelos/previo.vdc"), "x");
     Escribir(Ruta("modelos/m.vdm"), "x");
-    struct Caso {
-        const char* compilado; // the model's compiled file before
-        const char* archivo;   // its model file
-        const char* elegido;   // nullptr: the dialog is cancelled
-    };
-    const Caso casos[] = {
-        {"", "", "modelos/d.vdc"},
-        {"modelos/previo.vdc", "", "modelos/previo.vdc"},
-        {"ya-no-esta.vdc", "modelos/m.vdm", nullptr},
-        {"", "", "no-existe/d.vdc"},
-    };
     pruebas::Acta acta;
-    for (const Caso& c : casos) {
+    for (const pruebas::Caso& caso : pruebas::Casos("archivos/compilado.txt")) {
+        const std::string &compilado = caso.campos.at(1), &archivo = caso.campos.at(3),
+                          &elegido = caso.campos.at(5);
         Modelo& m = sesion().modelo;
-        m.ArchivoCompilado = *c.compilado ? Ruta(c.compilado) : "";
-        m.Archivo = *c.archivo ? Ruta(c.archivo) : "";
+        m.ArchivoCompilado = compilado.empty() ? "" : Ruta(compilado);
+        m.Archivo = archivo.empty() ? "" : Ruta(archivo);
         m.Compilado = false;
         m.Modificado = true;
         pruebas::GuionDialogos guion;
         const std::string titulo = "Guardar modelo compilado como...";
-        c.elegido ? guion.Elegir(titulo, Ruta(c.elegido)) : guion.Cancelar(titulo);
+        elegido == "(cancel)" ? guion.Cancelar(titulo) : guion.Elegir(titulo, Ruta(elegido));
         const bool escrito = EscribirCompilado(sesion());
         const PeticionDialogo& p = guion.Peticiones().at(0);
         EXPECT_EQ(p.filtro, "Archivos compilados (*.vdc)|*.vdc|Todos los archivos (*.*)|*.*");
         EXPECT_NE(p.flags & DlgPreguntarSobrescribir, 0);
-        acta.Fila(std::string("compiled '") + c.compilado + "', model '" + c.archivo +
-                      "', chosen '" + (c.elegido ? c.elegido : "(cancel)") + "'",
-                  "dialog in '" + p.directorioInicial + "' named '" + p.nombreArchivo + "'; " +
-                      (escrito ? "written" : "not written") + (m.Compilado ? ", compiled" : "") +
-                      (m.Modificado ? ", modified" : "") + ", compiled file '" +
-                      m.ArchivoCompilado + "'");
+        acta.Fila(caso.texto, "dialog in '" + p.directorioInicial + "' named '" + p.nombreArchivo +
+                                  "'; " + (escrito ? "written" : "not written") +
+                                  (m.Compilado ? ", compiled" : "") +
+                                  (m.Modificado ? ", modified" : "") + ", compiled file '" +
+                                  m.ArchivoCompilado + "'");
     }
     acta.sustituciones = {{Directorio(), "<programa>"}};
     acta.Comparar("archivos/compilado.txt");

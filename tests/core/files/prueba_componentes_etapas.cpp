@@ -55,27 +55,18 @@ TEST_F(ComponentesEtapas, ACompleteModelRoundTrips) {
 // file and leave no entries. Each section stands in a file of its own, so a key on the last
 // line is found only by a search that starts on it or whose first key is its own.
 TEST_F(ComponentesEtapas, WhatAReadLeavesOfTheEntries) {
-    const std::pair<bool, const char*> casos[] = {
-        {false, "*****COMPONENTES*****\r\nCMP_NUM = 0\r\n*****ETAPAS*****\r\nETA_NUM = 0\r\n"},
-        {true, "*****ETAPAS*****\r\nETA_NUM = 0\r\n"},
-        {false, "*****REQUERIMIENTOS*****\r\nREQ_NUMR = 0\r\n"},
-        {true, "*****REQUERIMIENTOS*****\r\nREQ_NUMR = 0\r\n"},
-        {false, "*****COMPONENTES*****\r\nCMP_NUM = dos\r\n"},
-        {true, "*****ETAPAS*****\r\nETA_NUM = 99999\r\n"},
-        {false, "*****COMPONENTES*****\r\nCMP_NUM = 0\r\n"},
-        {false, "*****COMPONENTES*****\r\nCMP_NUM =  1 \r\nCMP_C1_NOM = Sin cuenta\r\n"},
-    };
     pruebas::Acta acta;
-    for (const auto& [etapas, texto] : casos) {
+    for (const pruebas::Caso& caso : pruebas::Casos("archivos/lectura_componentes_etapas.txt")) {
+        const bool etapas = caso.campos.at(0) == "stages";
         Modelo m = ConComponentesYEtapas();
-        Escribir(ruta, texto);
+        Escribir(ruta, caso.campos.at(1));
         etapas ? CargarEtapas(m, ruta) : CargarComponentes(m, ruta);
-        acta.Fila(std::string(etapas ? "stages from " : "components from ") + texto,
-                  etapas ? "'" + m.NumEtapas.Texto() + "' in " + std::to_string(m.Etapas.Cota()) +
-                               ", first '" + m.Etapas(1) + "'"
-                         : "'" + m.NumComponentes.Texto() + "' in " +
-                               std::to_string(m.Componentes.Cota()) + ", first '" +
-                               m.Componentes(1).Nombre + "'");
+        acta.Fila(caso.texto, etapas ? "'" + m.NumEtapas.Texto() + "' in " +
+                                           std::to_string(m.Etapas.Cota()) + ", first '" +
+                                           m.Etapas(1) + "'"
+                                     : "'" + m.NumComponentes.Texto() + "' in " +
+                                           std::to_string(m.Componentes.Cota()) + ", first '" +
+                                           m.Componentes(1).Nombre + "'");
     }
     acta.Comparar("archivos/lectura_componentes_etapas.txt");
     EXPECT_TRUE(std::filesystem::exists(Ruta("modelo.$$$")))
