@@ -28,19 +28,18 @@ protected:
     pruebas::GuionDialogos dialogos;
 };
 
-TEST_F(Plantillas, ACancelledDialogChangesNothingAndSaysNothing) {
+// A cancelled dialog changes nothing, says nothing and remembers nothing; the first dialog
+// opens on the default folder, and the chosen folder is remembered.
+TEST_F(Plantillas, TheFirstDialogOpensOnTheDefaultFolderAndTheChosenFolderIsRemembered) {
     dialogos.Cancelar("Importar etapas");
     const Modelo antes = sesion().modelo;
     EXPECT_FALSE(ImportarEtapas(sesion().modelo));
     EXPECT_EQ(sesion().modelo, antes);
     EXPECT_EQ(Contenido(Ruta("Config.ini")), "");
-}
-
-TEST_F(Plantillas, TheFirstDialogOpensOnTheDefaultFolderAndTheChosenFolderIsRemembered) {
     const std::string ruta = otra + "/etapas.tpa";
     dialogos.Elegir("Exportar etapas", ruta);
     ASSERT_TRUE(ExportarEtapas(sesion().modelo));
-    const PeticionDialogo& p = dialogos.Peticiones().at(0);
+    const PeticionDialogo& p = dialogos.Peticiones().at(1);
     EXPECT_EQ(p.tipo, TipoDialogo::Guardar);
     EXPECT_EQ(p.directorioInicial, Ruta("Archivos de modelo"));
     EXPECT_TRUE(std::filesystem::is_directory(p.directorioInicial));
@@ -52,7 +51,7 @@ TEST_F(Plantillas, TheFirstDialogOpensOnTheDefaultFolderAndTheChosenFolderIsReme
     dialogos.Elegir("Importar etapas", ruta);
     sesion().modelo.Etapas(1) = "otra";
     ASSERT_TRUE(ImportarEtapas(sesion().modelo));
-    EXPECT_EQ(dialogos.Peticiones().at(1).directorioInicial, otra);
+    EXPECT_EQ(dialogos.Peticiones().at(2).directorioInicial, otra);
     EXPECT_EQ(sesion().modelo.Etapas(1), "Explotación");
 }
 
