@@ -33,7 +33,9 @@ TEST_F(ComponentesEtapas, EmptyAndNonPositiveCountsWriteTheZeroLine) {
                                                          "X*****ETAPAS*****", "XETA_NUM = 0"}));
 }
 
-TEST_F(ComponentesEtapas, ACompleteModelRoundTrips) {
+// A complete model round-trips, its values trimmed on reading; a standalone section is a
+// scrambled file of its own; a writer failure goes up and the model keeps its file.
+TEST_F(ComponentesEtapas, ACompleteModelAndAStandaloneSectionRoundTrip) {
     Modelo m = ConComponentesYEtapas();
     GuardarModelo(m, ruta, false);
     Modelo leido;
@@ -47,6 +49,18 @@ TEST_F(ComponentesEtapas, ACompleteModelRoundTrips) {
     leido.Etapas(2) = " Obra";
     GuardarModelo(leido, Ruta("otra.vdm"), false);
     EXPECT_EQ(Contenido(Ruta("otra.vdm")), Contenido(ruta));
+    GuardarEtapas(m, Ruta("etapas.tpa"), false);
+    EXPECT_EQ(LineasPlanas(Contenido(Ruta("etapas.tpa"))).front(), "*****ETAPAS*****");
+    Modelo etapas;
+    CargarEtapas(etapas, Ruta("etapas.tpa"));
+    EXPECT_EQ(etapas.Etapas(1), "Diseño");
+    EXPECT_FALSE(std::filesystem::exists(Ruta("etapas.$$$")));
+    const std::string anterior = Contenido(ruta);
+    m.NumComponentes = 3; // the count governs, and the array holds two
+    m.Modificado = true;
+    EXPECT_THROW(GuardarModelo(m, ruta, false), ErrorEjecucion);
+    EXPECT_TRUE(m.Modificado);
+    EXPECT_EQ(Contenido(ruta), anterior);
 }
 
 // What a read leaves of the entries of a model that held two of each: a count of 0 keeps the
@@ -92,27 +106,6 @@ TEST_F(ComponentesEtapas, AFailureInsideAModelLoadGoesOnWithTheNextSection) {
     CargarModelo(m, ruta);
     EXPECT_EQ(m.Nombre, "M");
     EXPECT_EQ(m.Etapas(1), "Uso");
-}
-
-TEST_F(ComponentesEtapas, AWriterFailureGoesUpAndTheModelKeepsItsFile) {
-    Modelo m = ConComponentesYEtapas();
-    GuardarModelo(m, ruta, false);
-    const std::string anterior = Contenido(ruta);
-    m.NumComponentes = 3; // the count governs, and the array holds two
-    m.Modificado = true;
-    EXPECT_THROW(GuardarModelo(m, ruta, false), ErrorEjecucion);
-    EXPECT_TRUE(m.Modificado);
-    EXPECT_EQ(Contenido(ruta), anterior);
-}
-
-TEST_F(ComponentesEtapas, AStandaloneSectionIsAScrambledFile) {
-    const Modelo m = ConComponentesYEtapas();
-    GuardarEtapas(m, Ruta("etapas.tpa"), false);
-    EXPECT_EQ(LineasPlanas(Contenido(Ruta("etapas.tpa"))).front(), "*****ETAPAS*****");
-    Modelo leido;
-    CargarEtapas(leido, Ruta("etapas.tpa"));
-    EXPECT_EQ(leido.Etapas(1), "Diseño");
-    EXPECT_FALSE(std::filesystem::exists(Ruta("etapas.$$$")));
 }
 
 } // namespace
