@@ -72,7 +72,7 @@ TEST_F(Cabecera, PlainTextLoadsAndThePermissionIsTrueOnlyForVerdaderoOrTrue) {
     EXPECT_EQ(Contenido(ruta).substr(0, 5), "*****") << "a reader leaves the plain file untouched";
 }
 
-TEST_F(Cabecera, AnEmptyOrUnknownFileGivesAnEmptyModel) {
+TEST_F(Cabecera, AnEmptyOrUnknownFileGivesAnEmptyModelAndAMissingOneError53) {
     Escribir(ruta, "");
     Modelo m = ModeloCompleto();
     CargarModelo(m, ruta);
@@ -88,12 +88,9 @@ TEST_F(Cabecera, AnEmptyOrUnknownFileGivesAnEmptyModel) {
     Modelo n;
     CargarModelo(n, ruta);
     EXPECT_EQ(n.NumRequerimientos, ValorLibre());
-}
-
-TEST_F(Cabecera, AMissingFileIsRuntimeError53) {
-    Modelo m;
-    EXPECT_EQ(pruebas::NumeroDeError([&] { CargarModelo(m, Ruta("no-esta.vdm")); }),
-              ErrArchivoNoEncontrado);
+    EXPECT_EQ(pruebas::NumeroDeError([&] { CargarModelo(n, Ruta("no-esta.vdm")); }),
+              ErrArchivoNoEncontrado)
+        << "a missing file is no empty one";
 }
 
 // A save that fails shows its message, keeps Modificado and leaves the previous file intact,

@@ -71,6 +71,8 @@ TEST_F(SeccionFuncion, NoneUnknownAndUndefinedPartsWriteWhatTheyAre) {
     opciones.Optativos(2).Funcion.Clave = "viejo";
     EXPECT_TRUE(Tiene(LineasDe(opciones), "FUN_O2I2_IND = O2I2"));
     EXPECT_EQ(opciones.Optativos(2).Funcion.Clave, "O2I2") << "the writer sets the option's key";
+    opciones.Optativos(2).Funcion.Escalones.Borrar();
+    EXPECT_EQ(LineasDe(opciones).back(), "FUN_O2I2_ESC_NUM =  0 ") << "an absent array";
 }
 
 TEST_F(SeccionFuncion, EveryKindComesBackFromATemplateFile) {
@@ -110,12 +112,6 @@ TEST_F(SeccionFuncion, CancelInTheRetryBoxAbandonsTheWholeSave) {
                      Respuesta::Cancelar);
     EXPECT_EQ(NumeroDeError([&] { GuardarFuncionValor(opciones, destino, false); }), ErrCancelar);
     EXPECT_EQ(Contenido(destino), "antes");
-}
-
-TEST_F(SeccionFuncion, AnOptionsAbsentStepsAreWrittenAsACountOfZero) {
-    FuncionValor opcion = DeOptativos("K");
-    opcion.Optativos(2).Funcion.Escalones.Borrar();
-    EXPECT_EQ(LineasDe(opcion).back(), "FUN_O2K_ESC_NUM =  0 ");
 }
 
 // Hand-made blocks (the key asked for, then the block's lines separated by "|") read and
