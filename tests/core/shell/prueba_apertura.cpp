@@ -149,18 +149,6 @@ TEST_F(Apertura, BadFilesAreToldAndLeaveTheBlankModelWithNoFile) {
     acta.Comparar("comandos/abrir_fallos.txt");
 }
 
-TEST_F(Apertura, WhatReadsAsAModel) {
-    using Lineas = std::vector<std::string>;
-    EXPECT_TRUE(PareceModelo(Lineas{}));
-    EXPECT_TRUE(PareceModelo(Lineas{"basura", "*****MODELO*****"}));
-    for (const char* linea :
-         {"MOD_NOM = x", "REQ_NUM = 1", "CMP_NUM = 0", "ETA_NUM = 0", "FUN_I1C1R1_TIP = 1"}) {
-        EXPECT_TRUE(PareceModelo(Lineas{"otra cosa", linea})) << linea;
-    }
-    EXPECT_FALSE(PareceModelo(Lineas{""}));
-    EXPECT_FALSE(PareceModelo(Lineas{"texto = MOD_NOM", " REQ_NUM = 1", "****"}));
-}
-
 TEST_F(Apertura, TheStepLabelsAfterAnOpening) {
     const auto etiquetas = [](const Modelo& m) { return EtiquetasTrasAbrir(m); };
     using Esperadas = std::vector<std::pair<int, bool>>;
