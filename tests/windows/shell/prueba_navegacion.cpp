@@ -32,6 +32,9 @@ const std::string kIncorrecta = "VADRO PROGRAMADOR: compilación incorrecta";
 const std::string kErrores = "El modelo contiene errores.\nCorríjalos para poder crear el "
                              "archivo utilizable por el módulo VADRO USUARIO.";
 
+constexpr const char* kR = "frmRequerimientos";
+constexpr const char* kC = "frmComponentes";
+
 class Navegacion : public pruebas::VentanaPrincipal {
 protected:
     // A new model that holds `modelo`, walked to the position, and compiled there.
@@ -90,17 +93,11 @@ protected:
     // The selected node of the tree window of that name: key and text, as the logic holds it
     // and as the view shows it current.
     std::string Seleccionado(const std::string& ventana) const {
-        const Arbol* arbol = nullptr;
-        const VistaArbol* vista = nullptr;
-        if (ventana == "frmRequerimientos") {
-            auto* r = dynamic_cast<frmRequerimientos*>(Hija("frmRequerimientos"));
-            arbol = &r->Edicion().tvwArbol;
-            vista = r->tvwArbol;
-        } else {
-            auto* c = dynamic_cast<frmComponentes*>(Hija("frmComponentes"));
-            arbol = &c->Edicion().tvwArbol;
-            vista = c->tvwArbol;
-        }
+        QWidget* hija = Hija(ventana.c_str());
+        const VistaArbol* vista = Hijo<VistaArbol>(*hija, "tvwArbol");
+        const Arbol* arbol = ventana == kR
+                                 ? &dynamic_cast<frmRequerimientos*>(hija)->Edicion().tvwArbol
+                                 : &dynamic_cast<frmComponentes*>(hija)->Edicion().tvwArbol;
         const NodoArbol* nodo = arbol->Seleccionado();
         if (nodo == nullptr) {
             return "";
@@ -159,8 +156,6 @@ TEST_P(NavegacionPorClave, TheDoubleClickLandsOnTheWindowStepAndNodeOfTheKey) {
 const Strings kReq = {"frmCompilacion", "frmEjes", "frmRequerimientos"};
 const Strings kCmp = {"frmCompilacion", "frmEjes", "frmComponentes"};
 constexpr const char* kEjes = "Posición: ejes";
-constexpr const char* kR = "frmRequerimientos";
-constexpr const char* kC = "frmComponentes";
 
 // One key of each way; which window and step every key word reaches, from every step, is the
 // core's table of the way to a finding. A repeated name, whose label is put in edit, is in the
