@@ -133,21 +133,18 @@ TEST_F(Ejes, TheAxesDialogFromTheWindowAndFromTheMenu) {
     EXPECT_TRUE(m.Modificado);
     EXPECT_EQ(Botones(ejes), "Plazo|Requerimientos|");
 
-    sesion().modelo.Modificado = false;
-    modales.Esperar(QStringLiteral("frmConfigEjes"), [](QDialog& d) {
-        Hijo<QLineEdit>(d, "txtEjeZ")->setText(QStringLiteral("Partes"));
-        Hijo<QPushButton>(d, "cmdCancelar")->click();
-    });
-    principal.mnuConfiguracionEjes->trigger();
-    EXPECT_EQ(sesion().modelo.EjeZ, "");
-    EXPECT_FALSE(sesion().modelo.Modificado) << "cancel changes nothing";
-
-    modales.Esperar(QStringLiteral("frmConfigEjes"), [](QDialog& d) {
-        Hijo<QLineEdit>(d, "txtEjeZ")->setText(QStringLiteral("Partes"));
-        Hijo<QPushButton>(d, "cmdAceptar")->click();
-    });
-    principal.mnuConfiguracionEjes->trigger();
-    EXPECT_EQ(ejes.cmdComponentes->text(), QStringLiteral("Partes"));
+    // From the menu: cancel changes nothing, acceptance shows on the buttons.
+    for (const auto& [boton, eje] :
+         {std::pair("cmdCancelar", ""), std::pair("cmdAceptar", "Partes")}) {
+        sesion().modelo.Modificado = false;
+        modales.Esperar(QStringLiteral("frmConfigEjes"), [boton = boton](QDialog& d) {
+            Hijo<QLineEdit>(d, "txtEjeZ")->setText(QStringLiteral("Partes"));
+            Hijo<QPushButton>(d, boton)->click();
+        });
+        principal.mnuConfiguracionEjes->trigger();
+        EXPECT_EQ(std::tuple(m.EjeZ, m.Modificado, ACadena(ejes.cmdComponentes->text())),
+                  std::tuple(eje, *eje != '\0', eje));
+    }
 }
 
 TEST_F(Ejes, ThePropertiesDialogLoadsAcceptsAndCancels) {
