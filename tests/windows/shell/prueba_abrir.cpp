@@ -113,20 +113,14 @@ TEST_F(Abrir, PrintingLoadsTheReportOnlyForTheMoment) {
     EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
 }
 
-class Subcriterios : public Abrir {
-protected:
-    void AbrirConSubcriterios() {
-        Modelo m = pruebas::ModeloCon({Requerimiento(
-            "R", {Criterio("C", {}, {Subcriterio("S", {Indicador("a"), Indicador("b")})})})});
-        AbrirDesdeBarra(ModeloEnDisco("sub.vdm", m));
-        ASSERT_TRUE(principal.mnuPermitirSubcriterios->isChecked());
-    }
-};
-
 // The entry follows the answers: off asks while the model holds subcriteria, and Yes moves
 // their indicators up; on always asks.
-TEST_F(Subcriterios, TheEntryFollowsTheAnswersAndTheModel) {
-    AbrirConSubcriterios();
+TEST_F(Abrir, TheSubcriteriaEntryFollowsTheAnswersAndTheModel) {
+    AbrirDesdeBarra(ModeloEnDisco(
+        "sub.vdm",
+        pruebas::ModeloCon({Requerimiento(
+            "R", {Criterio("C", {}, {Subcriterio("S", {Indicador("a"), Indicador("b")})})})})));
+    ASSERT_TRUE(principal.mnuPermitirSubcriterios->isChecked());
     const std::pair<const char*, Respuesta> pasos[] = {
         {"off, subcriteria in the model", Respuesta::No},
         {"off, the requirements window open", Respuesta::Si},
