@@ -1,5 +1,4 @@
 #include "core/core/archivos.h"
-#include "core/core/error_ejecucion.h"
 #include "core/core/version.h"
 #include "core/shell/comandos_modelo.h"
 #include "soporte/acta.h"
@@ -15,15 +14,6 @@ namespace {
 class ComandosModelo : public pruebas::PruebaSesion {
 protected:
     Modelo& modelo() { return sesion().modelo; }
-
-    // A model that was worked on: it has a name, a file and unsaved changes.
-    void ModeloModificado(const std::string& archivo) {
-        modelo().Nombre = "Depuradora";
-        modelo().Archivo = archivo;
-        modelo().Modificado = true;
-    }
-
-    const std::string tituloGuardar = "Guardar modelo como...";
 };
 
 // The new model keeps only what InicializarModelo does not name: its state and compiled file.
@@ -111,11 +101,12 @@ TEST_F(ComandosModelo, TheSaveQuestionsOfNuevoAndOfClosing) {
           std::tuple{true, true, "", Respuesta::Si},
           std::tuple{true, true, "m.vdm", Respuesta::Cancelar}}) {
         BorrarArchivo(Ruta("m.vdm"));
-        ModeloModificado(*archivo ? Ruta(archivo) : "");
+        modelo().Nombre = "Depuradora";
+        modelo().Archivo = *archivo ? Ruta(archivo) : "";
         modelo().Modificado = modificado;
         pruebas::GuionDialogos dialogos; // strict: only the closing's save-as is expected
         if (cerrar && !*archivo) {
-            dialogos.Cancelar(tituloGuardar);
+            dialogos.Cancelar("Guardar modelo como...");
         }
         acta.respuestas = {respuesta};
         const bool sigue =
