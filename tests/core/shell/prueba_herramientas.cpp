@@ -1,8 +1,6 @@
 #include "core/core/archivos.h"
 #include "core/core/version.h"
 #include "core/files/modelo_archivo.h"
-#include "core/files/proteccion.h"
-#include "core/shell/herramientas.h"
 #include "programa_herramientas.h"
 #include "soporte/acta.h"
 #include "soporte/datos.h"
@@ -32,12 +30,6 @@ TEST_F(Herramientas, ProtegerScramblesAHandWrittenTextThatLoadsAsMeant) {
     CargarModelo(m, Ruta("modelo.vdm"));
     EXPECT_EQ(m.Nombre, "Señal ñ€");
     EXPECT_TRUE(m.PermisoUsuarioVer);
-}
-
-TEST_F(Herramientas, ProtegerTakesEightBitTextAsItStands) {
-    EXPECT_EQ(ComoOchoBits("A\xF1o"), "A\xF1o");
-    EXPECT_EQ(ComoOchoBits("Año"), "A\xF1o");
-    EXPECT_EQ(ComoOchoBits("plain"), "plain");
 }
 
 // A sound model with one warning: its requirement has a single criterion.

@@ -4,7 +4,6 @@
 #include "core/core/archivos.h"
 #include "core/files/modelo_archivo.h"
 #include "core/files/proteccion.h"
-#include "core/files/texto_modelo.h"
 #include "programa_herramientas.h"
 #include "soporte/modelo_sano.h"
 
