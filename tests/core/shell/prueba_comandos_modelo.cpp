@@ -1,5 +1,4 @@
 #include "core/core/archivos.h"
-#include "core/core/error_ejecucion.h"
 #include "core/core/version.h"
 #include "core/shell/comandos_modelo.h"
 #include "soporte/acta.h"
@@ -15,17 +14,9 @@ namespace {
 class ComandosModelo : public pruebas::PruebaSesion {
 protected:
     Modelo& modelo() { return sesion().modelo; }
-
-    // A model that was worked on: it has a name, a file and unsaved changes.
-    void ModeloModificado(const std::string& archivo) {
-        modelo().Nombre = "Depuradora";
-        modelo().Archivo = archivo;
-        modelo().Modificado = true;
-    }
-
-    const std::string tituloGuardar = "Guardar modelo como...";
 };
 
+// The new model keeps only what InicializarModelo does not name: its state and compiled file.
 TEST_F(ComandosModelo, InicializarModeloBlanksEverythingTheNewModelDoesNotKeep) {
     Modelo& m = modelo();
     const std::vector<std::string*> textos = {&m.Archivo,    &m.Nombre,     &m.Fecha,
@@ -36,7 +27,8 @@ TEST_F(ComandosModelo, InicializarModeloBlanksEverythingTheNewModelDoesNotKeep) 
     }
     m.Aplicacion = "0.9.1";
     m.EjeX = m.EjeY = m.EjeZ = "X";
-    m.ConSubcriterios = true;
+    m.ConSubcriterios = m.Modificado = m.Compilado = m.PermisoUsuarioVer = true;
+    m.ArchivoCompilado = "/x/m.vdc";
     m.NumRequerimientos = 2;
     m.Requerimientos.Redimensionar(2);
     m.Requerimientos(1).Nombre = "viejo";
@@ -49,13 +41,13 @@ TEST_F(ComandosModelo, InicializarModeloBlanksEverythingTheNewModelDoesNotKeep) 
         EXPECT_EQ(*campo, "");
     }
     EXPECT_EQ(m.Aplicacion, VersionPrograma());
-    EXPECT_EQ(m.NumRequerimientos, ValorLibre(0));
-    EXPECT_EQ(m.NumComponentes, ValorLibre(0));
-    EXPECT_EQ(m.NumEtapas, ValorLibre(0));
-    EXPECT_FALSE(m.ConSubcriterios);
-    EXPECT_EQ(m.EjeX, "Tiempo");
-    EXPECT_EQ(m.EjeY, "Requerimientos");
-    EXPECT_EQ(m.EjeZ, "Componentes");
+    EXPECT_EQ(std::tuple(m.NumRequerimientos, m.NumComponentes, m.NumEtapas),
+              std::tuple(ValorLibre(0), ValorLibre(0), ValorLibre(0)));
+    EXPECT_EQ(std::tuple(m.EjeX, m.EjeY, m.EjeZ),
+              std::tuple("Tiempo", "Requerimientos", "Componentes"));
+    EXPECT_EQ(std::tuple(m.ConSubcriterios, m.Modificado, m.Compilado, m.PermisoUsuarioVer),
+              std::tuple(false, true, true, true));
+    EXPECT_EQ(m.ArchivoCompilado, "/x/m.vdc");
     ASSERT_EQ(m.Requerimientos.Cota(), 1);
     EXPECT_EQ(m.Requerimientos(1), NodoRequerimiento{}) << "one empty element, made anew";
     ASSERT_EQ(m.Componentes.Cota(), 1);
@@ -64,38 +56,24 @@ TEST_F(ComandosModelo, InicializarModeloBlanksEverythingTheNewModelDoesNotKeep) 
     EXPECT_EQ(m.Etapas(1), "");
 }
 
-TEST_F(ComandosModelo, InicializarModeloLeavesWhatItDoesNotName) {
-    Modelo& m = modelo();
-    m.Modificado = true;
-    m.Compilado = true;
-    m.PermisoUsuarioVer = true;
-    m.ArchivoCompilado = "/x/m.vdc";
-    InicializarModelo(m);
-    EXPECT_TRUE(m.Modificado);
-    EXPECT_TRUE(m.Compilado);
-    EXPECT_TRUE(m.PermisoUsuarioVer);
-    EXPECT_EQ(m.ArchivoCompilado, "/x/m.vdc");
-}
-
-TEST_F(ComandosModelo, TheSaveDialogOfAModelNeverSaved) {
+// Save proposes the folder and the name apart, a model never saved in the projects' folder;
+// Save as proposes the whole path.
+TEST_F(ComandosModelo, TheSaveDialog) {
     const PeticionDialogo p = PeticionGuardarModelo("", Directorio(), false);
     EXPECT_EQ(p.tipo, TipoDialogo::Guardar);
     EXPECT_EQ(p.titulo, "Guardar modelo como...");
     EXPECT_EQ(p.filtro, "Archivos de modelo (*.vdm)|*.vdm");
     EXPECT_EQ(p.flags, 6) << "hide read-only, confirm overwrite";
-    EXPECT_EQ(p.directorioInicial, UnirRuta(Directorio(), "Archivos de proyecto"));
-    EXPECT_EQ(p.nombreArchivo, "");
+    EXPECT_EQ(std::pair(p.directorioInicial, p.nombreArchivo),
+              std::pair(UnirRuta(Directorio(), "Archivos de proyecto"), std::string()));
     EXPECT_EQ(PeticionGuardarModelo("", Directorio(), true).directorioInicial, p.directorioInicial);
-}
-
-TEST_F(ComandosModelo, SaveProposesFolderAndNameApartAndSaveAsTheWholePath) {
     const std::string ruta = UnirRuta(UnirRuta(Directorio(), "modelos"), "planta.vdc");
     const PeticionDialogo guardar = PeticionGuardarModelo(ruta, Directorio(), false);
-    EXPECT_EQ(guardar.directorioInicial, UnirRuta(Directorio(), "modelos"));
-    EXPECT_EQ(guardar.nombreArchivo, "planta.vdc");
+    EXPECT_EQ(std::pair(guardar.directorioInicial, guardar.nombreArchivo),
+              std::pair(UnirRuta(Directorio(), "modelos"), std::string("planta.vdc")));
     const PeticionDialogo como = PeticionGuardarModelo(ruta, Directorio(), true);
-    EXPECT_EQ(como.nombreArchivo, ruta);
-    EXPECT_EQ(como.directorioInicial, "");
+    EXPECT_EQ(std::pair(como.directorioInicial, como.nombreArchivo),
+              std::pair(std::string(), ruta));
 }
 
 TEST_F(ComandosModelo, OnlyANewOrACompiledFileNeedsAName) {
@@ -111,36 +89,30 @@ TEST_F(ComandosModelo, OnlyANewOrACompiledFileNeedsAName) {
 // question and goes through the save-as dialog when there is no file, whose cancel does not
 // stop the closing.
 TEST_F(ComandosModelo, TheSaveQuestionsOfNuevoAndOfClosing) {
-    struct Caso {
-        bool cerrar;
-        bool modificado;
-        const char* archivo;
-        Respuesta respuesta;
-    };
-    const Caso casos[] = {
-        {false, false, "m.vdm", Respuesta::Aceptar},
-        {false, true, "m.vdm", Respuesta::No},
-        {false, true, "", Respuesta::Si},
-        {false, true, "m.vdm", Respuesta::Si},
-        {false, true, "m.vdm", Respuesta::Cancelar},
-        {true, false, "m.vdm", Respuesta::Aceptar},
-        {true, true, "", Respuesta::Si},
-        {true, true, "m.vdm", Respuesta::Cancelar},
-    };
     pruebas::Acta acta;
-    for (const Caso& c : casos) {
+    // Closing or Nuevo, modified or not, the model's file, the answer.
+    for (const auto& [cerrar, modificado, archivo, respuesta] :
+         {std::tuple{false, false, "m.vdm", Respuesta::Aceptar},
+          std::tuple{false, true, "m.vdm", Respuesta::No},
+          std::tuple{false, true, "", Respuesta::Si},
+          std::tuple{false, true, "m.vdm", Respuesta::Si},
+          std::tuple{false, true, "m.vdm", Respuesta::Cancelar},
+          std::tuple{true, false, "m.vdm", Respuesta::Aceptar},
+          std::tuple{true, true, "", Respuesta::Si},
+          std::tuple{true, true, "m.vdm", Respuesta::Cancelar}}) {
         BorrarArchivo(Ruta("m.vdm"));
-        ModeloModificado(*c.archivo ? Ruta(c.archivo) : "");
-        modelo().Modificado = c.modificado;
+        modelo().Nombre = "Depuradora";
+        modelo().Archivo = *archivo ? Ruta(archivo) : "";
+        modelo().Modificado = modificado;
         pruebas::GuionDialogos dialogos; // strict: only the closing's save-as is expected
-        if (c.cerrar && !*c.archivo) {
-            dialogos.Cancelar(tituloGuardar);
+        if (cerrar && !*archivo) {
+            dialogos.Cancelar("Guardar modelo como...");
         }
-        acta.respuestas = {c.respuesta};
+        acta.respuestas = {respuesta};
         const bool sigue =
-            c.cerrar ? GuardarAlCerrar(modelo(), Directorio()) : GuardarAntesDeNuevo(modelo());
-        acta.Fila(std::string(c.cerrar ? "close" : "new") + (c.modificado ? ", modified" : "") +
-                      ", file '" + c.archivo + "'",
+            cerrar ? GuardarAlCerrar(modelo(), Directorio()) : GuardarAntesDeNuevo(modelo());
+        acta.Fila(std::string(cerrar ? "close" : "new") + (modificado ? ", modified" : "") +
+                      ", file '" + archivo + "'",
                   std::string(sigue ? "goes on" : "stops") +
                       (ExisteArchivo(Ruta("m.vdm")) ? ", saved" : "") +
                       (modelo().Modificado ? ", still modified" : ""));

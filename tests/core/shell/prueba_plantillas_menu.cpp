@@ -1,7 +1,9 @@
 #include "core/core/archivos.h"
 #include "core/core/configuracion.h"
+#include "core/core/error_ejecucion.h"
 #include "core/core/ini.h"
 #include "core/files/proteccion.h"
+#include "core/shell/comandos_modelo.h"
 #include "core/shell/plantillas_menu.h"
 #include "soporte/acta.h"
 #include "soporte/componentes_etapas.h"
@@ -112,53 +114,34 @@ TEST_F(PlantillasMenu, EachTemplateGoesOutAndComesBackWithItsFolderRemembered) {
     EXPECT_TRUE(mensajes.Vistos().empty());
 }
 
-TEST_F(PlantillasMenu, ATemplateOfAnotherKindIsRefusedAndTheModelStays) {
+// A template of another kind or an empty one is refused with a message; a broken one or one
+// gone fails to the failure boundary, its folder remembered first. The model stays whole.
+TEST_F(PlantillasMenu, ATemplateThatCannotBeReadLeavesTheModelWhole) {
     modelo() = pruebas::ModeloCorrecto();
     const Modelo antes = modelo();
     pruebas::GuionDialogos dialogos;
     dialogos.Elegir("Exportar etapas", Ruta("etapas.tpa"));
     ASSERT_TRUE(EjecutarPlantilla(sesion(), Entrada("mnuExportarEtapas")));
     const std::string bytes = Contenido(Ruta("etapas.tpa"));
-    const std::pair<const char*, const char*> casos[] = {
-        {"mnuImportarR", "No se ha podido cargar el árbol de requerimientos."},
-        {"mnuImportarComp", "No se ha podido cargar el árbol de componentes."},
-    };
-    for (const auto& [entrada, queNo] : casos) {
-        dialogos.Elegir(TipoDeParte(Entrada(entrada).parte).tituloImportar, Ruta("etapas.tpa"));
-        mensajes.Esperar("VADRO: Error.",
-                         std::string("Fichero no válido o formato de datos incorrecto.\r\n") +
-                             queNo);
-        EXPECT_FALSE(EjecutarPlantilla(sesion(), Entrada(entrada)));
-        EXPECT_EQ(modelo(), antes);
-    }
     Escribir(Ruta("vacia.cmp"), "");
-    dialogos.Elegir("Importar componentes", Ruta("vacia.cmp"));
-    mensajes.Esperar("VADRO: Error.", "Fichero no válido o formato de datos incorrecto.\r\n"
-                                      "No se ha podido cargar el árbol de componentes.");
-    EXPECT_FALSE(EjecutarPlantilla(sesion(), Entrada("mnuImportarComp")));
-    EXPECT_EQ(modelo(), antes);
-    EXPECT_EQ(Contenido(Ruta("etapas.tpa")), bytes);
-}
-
-TEST_F(PlantillasMenu, AFailingReadOfRequirementsLeavesTheModelWhole) {
-    modelo() = pruebas::ModeloCorrecto();
-    const Modelo antes = modelo();
     Escribir(Ruta("rota.req"), "*****REQUERIMIENTOS*****\r\nREQ_NUMR = dos\r\n");
-    pruebas::GuionDialogos dialogos;
-    dialogos.Elegir("Importar requerimientos", Ruta("rota.req"));
-    EXPECT_THROW(EjecutarPlantilla(sesion(), Entrada("mnuImportarR")), ErrorEjecucion)
-        << "the failure boundary tells it";
-    EXPECT_EQ(modelo(), antes);
-    EXPECT_EQ(Clave("REQUERIMIENTOS"), Directorio()) << "the folder is remembered first";
-}
-
-TEST_F(PlantillasMenu, AVanishedTemplateFailsWithoutTouchingTheModel) {
-    modelo() = pruebas::ModeloCorrecto();
-    const Modelo antes = modelo();
-    pruebas::GuionDialogos dialogos;
-    dialogos.Elegir("Importar etapas", Ruta("no_esta.tpa"));
-    EXPECT_THROW(EjecutarPlantilla(sesion(), Entrada("mnuImportarEtapas")), ErrorEjecucion);
-    EXPECT_EQ(modelo(), antes);
+    pruebas::Acta acta;
+    acta.sustituciones = {{Directorio(), "<dir>"}};
+    for (const pruebas::Caso& caso : pruebas::Casos("comandos/plantillas_fallidas.txt")) {
+        const EntradaPlantilla& entrada = Entrada(caso.campos.at(0).c_str());
+        const TipoPlantilla& tipo = TipoDeParte(entrada.parte);
+        dialogos.Elegir(tipo.tituloImportar, Ruta(caso.campos.at(1)));
+        std::string salida;
+        try {
+            salida = EjecutarPlantilla(sesion(), entrada) ? "read" : "refused";
+        } catch (const ErrorEjecucion& error) {
+            salida = "error " + std::to_string(error.Numero()) + " " + error.Descripcion();
+        }
+        acta.Fila(caso.texto, salida + (modelo() == antes ? ", the model whole" : ", CHANGED") +
+                                  ", folder '" + Clave(tipo.claveDirectorio.c_str()) + "'");
+    }
+    acta.Comparar("comandos/plantillas_fallidas.txt");
+    EXPECT_EQ(Contenido(Ruta("etapas.tpa")), bytes);
 }
 
 TEST_F(PlantillasMenu, ACancelledDialogDoesNothing) {
@@ -173,29 +156,17 @@ TEST_F(PlantillasMenu, ACancelledDialogDoesNothing) {
     }
 }
 
-TEST_F(PlantillasMenu, WhatReadsAsATemplateOfEachKind) {
-    using Lineas = std::vector<std::string>;
-    const Lineas casos[] = {
-        {},
-        {"*****REQUERIMIENTOS*****"},
-        {"REQ_NUM = 0"},
-        {"*****COMPONENTES*****"},
-        {"x", "CMP_C1_NOM = a"},
-        {"*****ETAPAS*****", "ETA_NUM = 0"},
-        {"*****MODELO*****", "REQ_NUM = 0", "CMP_NUM = 0", "ETA_NUM = 0"}, // the three
-        {" REQ_NUM = 0", "texto CMP_NUM", "*****ETAPAS"},
-    };
+// Each case's fields after the first are the plain lines of a file.
+TEST_F(PlantillasMenu, WhatReadsAsAModelAndAsATemplateOfEachKind) {
     pruebas::Acta acta;
-    for (const Lineas& lineas : casos) {
-        std::string entrada = "lines";
-        std::string salida;
-        for (const std::string& linea : lineas) {
-            entrada += " '" + linea + "'";
-        }
+    for (const pruebas::Caso& caso : pruebas::Casos("comandos/es_plantilla.txt")) {
+        const std::vector<std::string> lineas(caso.campos.begin() + 1, caso.campos.end());
+        std::string plantillas;
         for (const Tipo& t : kTipos) {
-            salida += EsPlantillaDe(lineas, t.parte) ? std::string(" ") + t.titulo : "";
+            plantillas += EsPlantillaDe(lineas, t.parte) ? std::string(" ") + t.titulo : "";
         }
-        acta.Fila(entrada, "a template of" + salida);
+        acta.Fila(caso.texto, std::string(PareceModelo(lineas) ? "a model, " : "") +
+                                  "a template of" + plantillas);
     }
     acta.Comparar("comandos/es_plantilla.txt");
 }

@@ -5,22 +5,7 @@
 namespace vadro {
 namespace {
 
-TEST(Propiedades, TheSevenFieldsInTheOrderOfTheDialog) {
-    const std::pair<std::string Modelo::*, std::string> esperados[] = {
-        {&Modelo::Nombre, "Nombre del modelo ................................"},
-        {&Modelo::Fecha, "Fecha de elaboración ...................................."},
-        {&Modelo::Localizacion, "Localización .................................................."},
-        {&Modelo::Autor, "Realizado por .................................................."},
-        {&Modelo::Referencia, "Referencia .................................................."},
-        {&Modelo::Version, "Versión .................................................."},
-        {&Modelo::Descripcion, "Descripción:"},
-    };
-    for (std::size_t i = 0; i < CamposPropiedades().size(); ++i) {
-        EXPECT_EQ(CamposPropiedades()[i].campo, esperados[i].first) << i;
-        EXPECT_EQ(CamposPropiedades()[i].etiqueta, esperados[i].second) << i;
-    }
-}
-
+// Which label goes with which field is in the dump of the properties dialog.
 TEST(Propiedades, LoadAndAcceptanceCopyTheTextsAsTheyStand) {
     Modelo m;
     m.Nombre = "Depuradora";
@@ -30,47 +15,33 @@ TEST(Propiedades, LoadAndAcceptanceCopyTheTextsAsTheyStand) {
               (std::array<std::string, 7>{"Depuradora", "", "", "", "", "2", ""}));
     const std::array<std::string, 7> textos = {"",    "ayer por la tarde", "Sevilla", "Ana", "R-1",
                                                "v=3", "Una línea"};
-    AceptarPropiedades(m, textos);
-    EXPECT_EQ(m.Nombre, "") << "no field is required";
-    EXPECT_EQ(m.Fecha, "ayer por la tarde") << "a date is any text";
-    EXPECT_EQ(m.Localizacion, "Sevilla");
-    EXPECT_EQ(m.Autor, "Ana");
-    EXPECT_EQ(m.Referencia, "R-1");
-    EXPECT_EQ(m.Version, "v=3");
-    EXPECT_EQ(m.Descripcion, "Una línea");
-    EXPECT_EQ(m.Aplicacion, "1.0.0");
+    AceptarPropiedades(m, textos); // no field is required, and a date is any text
+    EXPECT_EQ(
+        std::tuple(m.Nombre, m.Fecha, m.Localizacion, m.Autor, m.Referencia, m.Version,
+                   m.Descripcion, m.Aplicacion),
+        std::tuple("", "ayer por la tarde", "Sevilla", "Ana", "R-1", "v=3", "Una línea", "1.0.0"));
     EXPECT_EQ(LeerPropiedades(m), textos);
 }
 
 TEST(Ejes, TitlesHintsAndDefaultsByAxis) {
-    struct Caso {
-        Eje eje;
-        std::string Modelo::*campo;
-        const char* defecto;
-        const char* ayuda;
-    };
-    const Caso casos[] = {
-        {Eje::X, &Modelo::EjeX, "Tiempo",
-         "Definición de etapas del ciclo de vida afectadas por la decisión"},
-        {Eje::Y, &Modelo::EjeY, "Requerimientos",
-         "Definición de objetivos o condiciones a cumplir"},
-        {Eje::Z, &Modelo::EjeZ, "Componentes",
-         "Definición de componentes o elementos que describen la decisión"},
-    };
     Modelo m;
     m.EjeY = "Objetivos";
-    for (const Caso& c : casos) {
-        EXPECT_EQ(TituloPorDefecto(c.eje), std::string(c.defecto));
-        EXPECT_EQ(AyudaEje(c.eje), std::string(c.ayuda));
-        EXPECT_EQ(&TituloEje(m, c.eje), &(m.*c.campo));
+    for (const auto& [eje, campo, defecto, ayuda] :
+         {std::tuple{Eje::X, &Modelo::EjeX, "Tiempo",
+                     "Definición de etapas del ciclo de vida afectadas por la decisión"},
+          std::tuple{Eje::Y, &Modelo::EjeY, "Requerimientos",
+                     "Definición de objetivos o condiciones a cumplir"},
+          std::tuple{Eje::Z, &Modelo::EjeZ, "Componentes",
+                     "Definición de componentes o elementos que describen la decisión"}}) {
+        EXPECT_EQ(TituloPorDefecto(eje), std::string(defecto));
+        EXPECT_EQ(AyudaEje(eje), std::string(ayuda));
+        EXPECT_EQ(&TituloEje(m, eje), &(m.*campo));
     }
     EXPECT_EQ(LeerTitulosEjes(m),
               (std::array<std::string, 3>{"Tiempo", "Objetivos", "Componentes"}))
         << "a title the model lacks shows its default";
-    AceptarTitulosEjes(m, {"Años", "", "Partes"});
-    EXPECT_EQ(m.EjeX, "Años");
-    EXPECT_EQ(m.EjeY, "") << "a field may be left empty";
-    EXPECT_EQ(m.EjeZ, "Partes");
+    AceptarTitulosEjes(m, {"Años", "", "Partes"}); // a field may be left empty
+    EXPECT_EQ(std::tuple(m.EjeX, m.EjeY, m.EjeZ), std::tuple("Años", "", "Partes"));
     EXPECT_TRUE(m.Modificado);
 }
 

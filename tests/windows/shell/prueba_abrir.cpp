@@ -13,8 +13,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 namespace vadro {
 namespace {
 
@@ -115,20 +113,14 @@ TEST_F(Abrir, PrintingLoadsTheReportOnlyForTheMoment) {
     EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
 }
 
-class Subcriterios : public Abrir {
-protected:
-    void AbrirConSubcriterios() {
-        Modelo m = pruebas::ModeloCon({Requerimiento(
-            "R", {Criterio("C", {}, {Subcriterio("S", {Indicador("a"), Indicador("b")})})})});
-        AbrirDesdeBarra(ModeloEnDisco("sub.vdm", m));
-        ASSERT_TRUE(principal.mnuPermitirSubcriterios->isChecked());
-    }
-};
-
 // The entry follows the answers: off asks while the model holds subcriteria, and Yes moves
 // their indicators up; on always asks.
-TEST_F(Subcriterios, TheEntryFollowsTheAnswersAndTheModel) {
-    AbrirConSubcriterios();
+TEST_F(Abrir, TheSubcriteriaEntryFollowsTheAnswersAndTheModel) {
+    AbrirDesdeBarra(ModeloEnDisco(
+        "sub.vdm",
+        pruebas::ModeloCon({Requerimiento(
+            "R", {Criterio("C", {}, {Subcriterio("S", {Indicador("a"), Indicador("b")})})})})));
+    ASSERT_TRUE(principal.mnuPermitirSubcriterios->isChecked());
     const std::pair<const char*, Respuesta> pasos[] = {
         {"off, subcriteria in the model", Respuesta::No},
         {"off, the requirements window open", Respuesta::Si},
@@ -161,41 +153,22 @@ TEST_F(Subcriterios, TheEntryFollowsTheAnswersAndTheModel) {
 
 using Plantillas = Abrir;
 
-TEST_F(Plantillas, EachTemplateGoesOutAndComesBackThroughTheMenu) {
+// One kind proves the menu: its entries and what follows an import go by the part, the same
+// for each kind.
+TEST_F(Plantillas, ATemplateGoesOutAndComesBackThroughTheMenu) {
     AbrirDesdeBarra(ModeloEnDisco("depuradora.vdm"));
-    const Modelo original = sesion().modelo;
-    const std::string carpeta = Ruta("plantillas");
-    std::filesystem::create_directories(carpeta);
-    struct Caso {
-        const char* exportar;
-        const char* importar;
-        const char* parte;
-        const char* extension;
-        int etiqueta;
-        const char* ventana;
-    };
-    const Caso casos[] = {
-        {"mnuExportarR", "mnuImportarR", "requerimientos", ".req", 1, "frmRequerimientos"},
-        {"mnuExportarComp", "mnuImportarComp", "componentes", ".cmp", 2, "frmComponentes"},
-        {"mnuExportarEtapas", "mnuImportarEtapas", "etapas", ".tpa", 3, "frmEtapas"},
-    };
-    for (const Caso& c : casos) {
-        pruebas::GuionDialogos dialogos;
-        dialogos.Elegir(std::string("Exportar ") + c.parte, UnirRuta(carpeta, "plantilla"));
-        Hijo<QAction>(principal, c.exportar)->trigger();
-        const std::string archivo = UnirRuta(carpeta, std::string("plantilla") + c.extension);
-        ASSERT_TRUE(ExisteArchivo(archivo)) << archivo;
-
-        principal.MarcarPaso(c.etiqueta, false);
-        sesion().modelo = Modelo{};
-        sesion().modelo.Requerimientos.Redimensionar(1);
-        dialogos.Elegir(std::string("Importar ") + c.parte, archivo);
-        Hijo<QAction>(principal, c.importar)->trigger();
-        // The label goes normal; the design window loaded for the tree marks it in hand.
-        EXPECT_EQ(Color(c.etiqueta), principal.ColorNormal());
-        EXPECT_NO_THROW(Hija(c.ventana)) << "the design window of the tree is loaded";
-        sesion().modelo = original;
-    }
+    pruebas::GuionDialogos dialogos;
+    dialogos.Elegir("Exportar etapas", Ruta("plantilla"));
+    principal.mnuExportarEtapas->trigger();
+    ASSERT_TRUE(ExisteArchivo(Ruta("plantilla.tpa")));
+    principal.MarcarPaso(3, false);
+    sesion().modelo = Modelo{};
+    sesion().modelo.Requerimientos.Redimensionar(1);
+    dialogos.Elegir("Importar etapas", Ruta("plantilla.tpa"));
+    principal.mnuImportarEtapas->trigger();
+    // The label goes normal; the design window loaded for the tree marks it in hand.
+    EXPECT_EQ(Color(3), principal.ColorNormal());
+    EXPECT_NO_THROW(Hija("frmEtapas")) << "the design window of the tree is loaded";
 }
 
 } // namespace

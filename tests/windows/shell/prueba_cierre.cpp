@@ -7,8 +7,6 @@
 namespace vadro {
 namespace {
 
-using Strings = std::vector<std::string>;
-
 class Cierre : public pruebas::VentanaPrincipal {
 protected:
     // A new model with unsaved changes.
@@ -33,7 +31,7 @@ TEST_F(Cierre, AnUnmodifiedModelClosesWithoutAQuestion) {
     EXPECT_TRUE(mensajes.Vistos().empty());
 }
 
-TEST_F(Cierre, CancelRefusesTheCloseAndReloadsTheWindowsOfEjes) {
+TEST_F(Cierre, CancelRefusesTheCloseAndReloadsTheWindowsOfEjesAndNoClosesThroughSalir) {
     ModeloModificado(Ruta("planta.vdm"));
     PulsarEtiqueta(1);
     PulsarEtiqueta(3);
@@ -48,13 +46,7 @@ TEST_F(Cierre, CancelRefusesTheCloseAndReloadsTheWindowsOfEjes) {
     EXPECT_FALSE(principal.pctFondo->isVisible()) << "the requirements window hides it";
     EXPECT_EQ(sesion().modelo, antes) << "Modificado stays too";
     EXPECT_FALSE(ExisteArchivo(Ruta("planta.vdm")));
-}
-
-TEST_F(Cierre, SalirGoesTheSameWay) {
-    ModeloModificado(Ruta("planta.vdm"));
-    EsperarPregunta(Respuesta::Cancelar);
-    principal.mnuSalir->trigger();
-    EXPECT_TRUE(principal.isVisible());
+    // Salir goes the same way.
     EsperarPregunta(Respuesta::No);
     principal.mnuSalir->trigger();
     EXPECT_FALSE(principal.isVisible());

@@ -62,38 +62,35 @@ TEST_F(Comandos, SavingANewModelAsksForANameAndShowsItInTheCaption) {
     EXPECT_EQ(NombreGuardadoEn(ruta), "planta 2");
 }
 
-TEST_F(Comandos, CompilingFromTheToolbarWorksAtEveryPosition) {
-    const std::string correcta = "VADRO PROGRAMADOR: compilación correcta";
-    const std::string pregunta =
-        "El modelo no contiene errores.\n"
-        "Desea crear el archivo compilado (*.vdc) utilizable por el módulo VADRO USUARIO?";
+// Compiling needs no model open and does not move along the line; it puts the printing button
+// on for good, and opens its window anew each time.
+TEST_F(Comandos, CompilingOpensItsWindowAnewAndPutsThePrintingButtonOn) {
     sesion().modelo = pruebas::ModeloCorrecto();
-    mensajes.Esperar(correcta, pregunta, Respuesta::No);
+    QAction* imprimir = Hijo<QAction>(principal, "Imprimir");
+    imprimir->setEnabled(false);
+    const bool retroceder = Habilitado(8);
+    EsperarCompilacionCorrecta();
     PulsarBoton("Compilar");
     EXPECT_EQ(Hijas(), Strings{"frmCompilacion"}) << "even before a model is open";
-    NuevoModelo();
-    sesion().modelo = pruebas::ModeloCorrecto();
-    principal.cmdContinuar->click();
-    mensajes.Esperar(correcta, pregunta, Respuesta::No);
-    PulsarBoton("Compilar");
-    EXPECT_EQ(Hijas(), (Strings{"frmResumen", "frmCompilacion"}));
-}
-
-TEST_F(Comandos, TheCompilationWindowPutsThePrintingButtonOn) {
-    sesion().modelo = pruebas::ModeloCorrecto();
-    principal.findChild<QAction*>(QStringLiteral("Imprimir"))->setEnabled(false);
-    const bool antes = Habilitado(8);
-    mensajes.Esperar("VADRO PROGRAMADOR: compilación correcta",
-                     "El modelo no contiene errores.\nDesea crear el archivo compilado (*.vdc) "
-                     "utilizable por el módulo VADRO USUARIO?",
-                     Respuesta::No);
-    PulsarBoton("Compilar");
-    EXPECT_TRUE(principal.findChild<QAction*>(QStringLiteral("Imprimir"))->isEnabled());
-    EXPECT_EQ(Habilitado(8), antes) << "button 8 is Retroceder's, which compiling leaves";
+    EXPECT_TRUE(imprimir->isEnabled());
+    EXPECT_EQ(Habilitado(8), retroceder) << "button 8 is Retroceder's, which compiling leaves";
     QTest::mouseClick(Hijo<QPushButton>(*Hija("frmCompilacion"), "cmdCerrar"), Qt::LeftButton);
     EXPECT_TRUE(Hijas().empty());
-    EXPECT_TRUE(principal.findChild<QAction*>(QStringLiteral("Imprimir"))->isEnabled())
-        << "the model report still prints from it";
+    EXPECT_TRUE(imprimir->isEnabled()) << "the model report still prints from it";
+
+    NuevoModelo();
+    sesion().modelo = pruebas::ModeloCorrecto();
+    EsperarCompilacionCorrecta();
+    PulsarEtiqueta(8);
+    EXPECT_EQ(Color(8), QColor(0, 0, 0)) << "its label is painted black";
+    EXPECT_FALSE(Negrita(8));
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmCompilacion"}));
+    QWidget* primera = Hija("frmCompilacion");
+    EsperarCompilacionCorrecta();
+    principal.mnuCompilar->trigger();
+    EXPECT_EQ(Hijas(), (Strings{"frmEjes", "frmCompilacion"}));
+    EXPECT_NE(Hija("frmCompilacion"), primera) << "the open one is unloaded and loaded again";
+    EXPECT_EQ(NombrePosicion(principal.Posicion()), "Ejes");
 }
 
 } // namespace

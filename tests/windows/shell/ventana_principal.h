@@ -42,9 +42,12 @@ protected:
     bool Visible(int boton) const;
     bool Habilitado(int boton) const;
 
-    // The two settings of the controls, and the empty desk.
-    void EsperarAjusteA() const;
-    void EsperarAjusteB() const;
+    // The two settings of the controls.
+    void EsperarAjusteA() const { EsperarAjuste(true); }
+    void EsperarAjusteB() const { EsperarAjuste(false); }
+    void EsperarAjuste(bool a) const;
+    // A compilation that finds no error, its question of the compiled file answered No.
+    void EsperarCompilacionCorrecta();
 
     // The look of a step label.
     QColor Color(int indice) const;
