@@ -2,7 +2,6 @@
 
 #include "core/core/comunes.h"
 #include "core/core/error_ejecucion.h"
-#include "core/core/mensajes.h"
 
 namespace vadro {
 
@@ -36,58 +35,34 @@ bool DestinoComponentesPermitido(int nivel, const NodoArbol* destino) {
     return NivelComponentesDe(destino) + 1 == nivel;
 }
 
-EdicionComponentes::EdicionComponentes(Sesion& sesion) : sesion_(sesion) {
-    tvwArbol.Observar(this);
-}
+namespace {
 
-EdicionComponentes::~EdicionComponentes() {
-    tvwArbol.DejarDeObservar(this);
-}
+// The components tree: two letters name a level, and every edit marks the model as modified.
+constexpr ReglasArbol kReglas{
+    .letrasClave = 2,
+    .nivel = NivelComponentesDe,
+    .prefijo = PrefijoComponentes,
+    .imagen = ImagenComponentes,
+    .textoNuevo = [](int nivel, const Modelo& /*modelo*/) { return TextoComponentes(nivel); },
+    .imagenCopia =
+        [](const NodoArbol& origen) { return ImagenComponentes(NivelComponentesDe(&origen)); },
+    .destinoPermitido = DestinoComponentesPermitido,
+    .falloCopia =
+        [](const ErrorEjecucion& error) {
+            return "Error " + std::to_string(error.Numero()) +
+                   " copiando nodo: " + error.Descripcion();
+        },
+    .marcaModificado = true,
+};
 
-void EdicionComponentes::AntesDeQuitar(const NodoArbol* nodo) {
-    if (NodoActual != nullptr && NodoActual->DentroDe(nodo)) {
-        NodoActual = nullptr;
-    }
-    if (NodoDestino != nullptr && NodoDestino->DentroDe(nodo)) {
-        NodoDestino = nullptr;
-    }
-}
+} // namespace
 
-void EdicionComponentes::AntesDeVaciar() {
-    NodoActual = nullptr;
-    NodoDestino = nullptr;
-}
-
-SelectorNivel& EdicionComponentes::Selector(int i) {
-    if (i < 1 || i > 2) {
-        throw ErrorEjecucion(340, "El elemento " + std::to_string(i) +
-                                      " de la matriz de controles no existe");
-    }
-    return Selectores[static_cast<std::size_t>(i - 1)];
-}
-
-void EdicionComponentes::Modificar() {
-    sesion_.modelo.Modificado = true;
-}
-
-void EdicionComponentes::SubirContadorClaves() {
-    if (ContadorClaves == INT16_MAX) {
-        throw ErrorEjecucion(ErrDesbordamiento);
-    }
-    ++ContadorClaves;
-}
+EdicionComponentes::EdicionComponentes(Sesion& sesion) : EdicionArbol(sesion, kReglas) {}
 
 // ---- opening and writing back ----
 
 void EdicionComponentes::Abrir() {
-    NodoActual = nullptr;
-    NodoDestino = nullptr;
-    NivelArrastre = 0;
-    NivelCopia = 0;
-    Arrastrando = false;
-    PegarHabilitado = false;
-    Selectores = {};
-    tvwCopia.Vaciar();
+    Reiniciar();
     tvwArbol.Vaciar();
     for (const FilaArbol& fila : LlenarArbolComponentes(sesion_.modelo, false)) {
         NodoArbol* padre =
@@ -140,24 +115,9 @@ bool EdicionComponentes::GuardarArbol() {
 
 // ---- operations ----
 
-NodoArbol* EdicionComponentes::AñadirNodo(NodoArbol* relativo, Relacion relacion, int nivel,
-                                          const std::string& texto) {
-    const std::string clave = PrefijoComponentes(nivel) + " " + std::to_string(ContadorClaves);
-    NodoArbol* nodo = tvwArbol.Añadir(relativo, relacion, clave, texto, ImagenComponentes(nivel));
-    Modificar();
-    return nodo;
-}
-
-void EdicionComponentes::MostrarYSeleccionar(NodoArbol* nodo) {
-    tvwArbol.AsegurarVisible(nodo);
-    tvwArbol.Seleccionar(nodo);
-}
-
 void EdicionComponentes::AñadirComponente(const std::string& texto) {
     SubirContadorClaves();
-    NodoArbol* nuevo = AñadirNodo(nullptr, Relacion::UltimoHijo, NivelComponente, texto);
-    MostrarYSeleccionar(nuevo);
-    ActualizarCombos(nuevo);
+    ActualizarCombos(AñadirHijo(nullptr, NivelComponente, texto));
 }
 
 void EdicionComponentes::AñadirSubcomponente(const std::string& texto) {
@@ -174,87 +134,14 @@ void EdicionComponentes::AñadirSubcomponente(const std::string& texto) {
     default:
         return; // nothing to hang it on
     }
-    NodoArbol* nuevo = AñadirNodo(padre, Relacion::UltimoHijo, NivelSubcomponente, texto);
-    MostrarYSeleccionar(nuevo);
-    ActualizarCombos(nuevo);
+    ActualizarCombos(AñadirHijo(padre, NivelSubcomponente, texto));
 }
 
-void EdicionComponentes::InsertarAntes() {
-    InsertarJunto(Relacion::Anterior);
-}
-
-void EdicionComponentes::InsertarDespues() {
-    InsertarJunto(Relacion::Siguiente);
-}
-
-void EdicionComponentes::InsertarJunto(Relacion lado) {
-    SubirContadorClaves();
-    NodoActual = tvwArbol.Seleccionado();
-    if (NodoActual == nullptr) {
-        return;
-    }
-    const int nivel = NivelComponentesDe(NodoActual);
-    AñadirNodo(NodoActual, lado, nivel, TextoComponentes(nivel));
-}
-
-void EdicionComponentes::Eliminar() {
-    NodoActual = tvwArbol.Seleccionado();
-    if (NodoActual == nullptr) {
-        return;
-    }
-    NodoArbol* siguiente =
-        NodoActual->Anterior() != nullptr ? NodoActual->Anterior() : NodoActual->Siguiente();
-    bool quitar = true;
-    if (NodoActual->NumHijos() > 0) {
-        quitar = MsgBox("El elemento selecionado tiene uno o más subnodos. Está seguro que "
-                        "quiere eliminarlo?",
-                        Botones::SiNo, Icono::Pregunta,
-                        "VADRO PROGRAMADOR: eliminar nodo") == Respuesta::Si;
-    }
-    if (quitar) {
-        tvwArbol.Quitar(NodoActual);
-        Modificar();
-    }
-    if (siguiente != nullptr) {
-        tvwArbol.Seleccionar(siguiente);
-    }
-    Reordenar();
-    ActualizarCombos(siguiente);
-}
-
-void EdicionComponentes::Copiar() {
-    NodoArbol* nodo = tvwArbol.Seleccionado();
-    if (nodo == nullptr) {
-        return;
-    }
-    PegarHabilitado = true;
-    tvwCopia.Vaciar();
-    CopiaNodo(nodo, tvwCopia, nullptr);
-}
-
-void EdicionComponentes::Pegar() {
-    if (tvwCopia.Vacio()) {
-        return;
-    }
-    CopiaNodo(tvwCopia.Nodo(1), tvwArbol, tvwArbol.Seleccionado());
-    Modificar();
-    Reordenar();
-}
-
-void EdicionComponentes::CopiaNodo(const NodoArbol* nodo, Arbol& arbolDestino,
-                                   NodoArbol* padreDestino) {
-    const auto nuevaClave = [this](const NodoArbol& origen) {
-        SubirContadorClaves();
-        return origen.Key().substr(0, 2) + " " + std::to_string(ContadorClaves);
-    };
-    const auto imagen = [](const NodoArbol& origen) {
-        return ImagenComponentes(NivelComponentesDe(&origen));
-    };
-    try {
-        CopiarRama(*nodo, arbolDestino, padreDestino, nuevaClave, imagen);
-    } catch (const ErrorEjecucion& error) {
-        MsgBox("Error " + std::to_string(error.Numero()) + " copiando nodo: " + error.Descripcion(),
-               Botones::Aceptar, Icono::Critico, "VADRO PROGRAMADOR");
+void EdicionComponentes::AñadirNivel(int nivel, const std::string& texto) {
+    if (nivel == NivelComponente) {
+        AñadirComponente(texto);
+    } else {
+        AñadirSubcomponente(texto);
     }
 }
 
@@ -264,28 +151,8 @@ void EdicionComponentes::Reordenar() {
 
 // ---- selectors ----
 
-void EdicionComponentes::PonerContador(int i, int valor) {
-    SelectorNivel& selector = Selector(i);
-    if (selector.Contador == valor) {
-        return;
-    }
-    selector.Contador = valor;
-    if (valor >= 0) {
-        selector.Etiqueta = std::to_string(valor);
-    }
-}
-
 void EdicionComponentes::ActualizarCombos(NodoArbol* nodo) {
-    for (int i = 1; i <= 2; ++i) {
-        SelectorNivel& selector = Selector(i);
-        selector.Nombres.clear();
-        selector.Claves.clear();
-        selector.Texto.clear();
-        selector.Seleccion = 0;
-        selector.SeleccionClave = 0;
-        selector.Bloqueada = true;
-        PonerContador(i, 0);
-    }
+    VaciarSelectores();
     const int nivel = NivelComponentesDe(nodo);
     const bool hijos = nodo != nullptr && nodo->NumHijos() > 0;
     Selector(1).ContadorHabilitado = true;
@@ -303,147 +170,7 @@ void EdicionComponentes::ActualizarCombos(NodoArbol* nodo) {
     }
 }
 
-void EdicionComponentes::LlenarCombos(NodoArbol* nodo) {
-    for (NodoArbol* actual = nodo; actual != nullptr; actual = actual->Padre()) {
-        const int i = NivelComponentesDe(actual);
-        SelectorNivel& selector = Selector(i);
-        selector.Bloqueada = false;
-        for (NodoArbol* hermano = actual->PrimerHermano(); hermano != nullptr;
-             hermano = hermano->Siguiente()) {
-            selector.Nombres.push_back(hermano->Text());
-            selector.Claves.push_back(hermano->Key());
-            PonerContador(i, selector.Contador + 1);
-            if (hermano == actual) {
-                selector.Seleccion = static_cast<int>(selector.Nombres.size());
-                selector.Texto = hermano->Text();
-                ClicLista(i);
-                selector.SeleccionClave = selector.Seleccion;
-            }
-        }
-        if (i < 2) {
-            break;
-        }
-    }
-}
-
-void EdicionComponentes::SubirContador(int i) {
-    SelectorNivel& selector = Selector(i);
-    if (!selector.ContadorHabilitado) {
-        return;
-    }
-    PonerContador(i, selector.Contador + 1);
-    Modificar(); // the counters are edits of the tree too
-    if (i == NivelComponente) {
-        AñadirComponente("Componente");
-    } else {
-        AñadirSubcomponente("Subcomponente");
-    }
-    Selector(i).ListaHabilitada = true;
-}
-
-void EdicionComponentes::BajarContador(int i) {
-    SelectorNivel& selector = Selector(i);
-    if (!selector.ContadorHabilitado || selector.Contador <= 0) {
-        return;
-    }
-    PonerContador(i, selector.Contador - 1);
-    Modificar();
-    tvwArbol.Seleccionar(tvwArbol.NodoPorClave(selector.ClaveElegida()));
-    Eliminar();
-    if (selector.Etiqueta == "0") {
-        selector.ListaHabilitada = false;
-    }
-}
-
-void EdicionComponentes::AbrirLista(int i) {
-    SelectorNivel& selector = Selector(i);
-    if (selector.ListaHabilitada) {
-        selector.Marca = "Usuario";
-    }
-}
-
-void EdicionComponentes::ElegirEnLista(int i, int posicion) {
-    SelectorNivel& selector = Selector(i);
-    if (!selector.ListaHabilitada || posicion < 1 ||
-        posicion > static_cast<int>(selector.Nombres.size())) {
-        return;
-    }
-    selector.Seleccion = posicion;
-    selector.Texto = selector.Nombres[static_cast<std::size_t>(posicion - 1)];
-    ClicLista(i);
-}
-
-void EdicionComponentes::ClicLista(int i) {
-    SelectorNivel& selector = Selector(i);
-    if (selector.Marca != "Usuario") {
-        return;
-    }
-    selector.Marca = "Auto";
-    selector.SeleccionClave = selector.Seleccion;
-    tvwArbol.Seleccionar(tvwArbol.NodoPorClave(selector.ClaveElegida()));
-}
-
-void EdicionComponentes::EnfocarLista(int /*i*/) {}
-
-void EdicionComponentes::EscribirEnLista(int i, const std::string& texto) {
-    SelectorNivel& selector = Selector(i);
-    if (!selector.ListaHabilitada || selector.Bloqueada) {
-        return;
-    }
-    selector.Texto = texto;
-    tvwArbol.Seleccionar(tvwArbol.NodoPorClave(selector.ClaveElegida()));
-    tvwArbol.CambiarTexto(tvwArbol.Seleccionado(), texto);
-    Modificar();
-}
-
-// ---- pointer, keys and labels ----
-
-void EdicionComponentes::PulsarRaton(NodoArbol* nodo) {
-    NodoActual = nodo;
-}
-
-void EdicionComponentes::MoverRaton(bool botonIzquierdo) {
-    if (!botonIzquierdo || NodoActual == nullptr || Arrastrando) {
-        return;
-    }
-    NivelArrastre = NivelComponentesDe(NodoActual);
-    Arrastrando = true;
-    NodoDestino = nullptr;
-}
-
-void EdicionComponentes::ArrastrarSobre(NodoArbol* nodo) {
-    if (!Arrastrando || nodo == NodoDestino) {
-        return;
-    }
-    NodoDestino = nodo;
-    const bool permitido = nodo != nullptr && DestinoComponentesPermitido(NivelArrastre, nodo);
-    tvwArbol.Resaltar(permitido ? nodo : nullptr);
-}
-
-void EdicionComponentes::Soltar() {
-    if (!Arrastrando) {
-        return;
-    }
-    Arrastrando = false;
-    NodoArbol* destino = tvwArbol.ResaltadoDestino();
-    if (destino != nullptr && NodoActual != nullptr && NodoActual->Padre() != nullptr) {
-        // No weights hang on these nodes: the move needs no question.
-        tvwArbol.Mover(NodoActual, destino);
-        tvwArbol.Resaltar(nullptr);
-        Modificar();
-    }
-    ActualizarCombos(NodoActual);
-}
-
-void EdicionComponentes::SoltarRaton(NodoArbol* nodo) {
-    NodoActual = nodo;
-    tvwArbol.Seleccionar(nodo);
-    NivelArrastre = NivelComponentesDe(nodo);
-    ActualizarCombos(nodo);
-    if (!tvwCopia.Vacio()) {
-        NivelCopia = NivelComponentesDe(tvwCopia.Nodo(1));
-    }
-}
+// ---- the menu ----
 
 MenuArbolComponentes EdicionComponentes::MenuContextual(NodoArbol* nodo) {
     SoltarRaton(nodo);
@@ -460,46 +187,8 @@ MenuArbolComponentes EdicionComponentes::MenuContextual(NodoArbol* nodo) {
     menu.CopiarVisible = hayNodo;
     menu.RenombrarVisible = hayNodo;
     menu.PegarVisible = true;
-    menu.PegarHabilitado = DestinoComponentesPermitido(NivelCopia, NodoActual);
-    PegarHabilitado = menu.PegarHabilitado;
+    menu.PegarHabilitado = PermitirPegar();
     return menu;
-}
-
-PeticionTecla EdicionComponentes::Tecla(int codigo) {
-    switch (codigo) {
-    case 37:
-    case 38:
-    case 39:
-    case 40:
-        NodoActual = tvwArbol.Seleccionado();
-        NivelArrastre = NivelComponentesDe(NodoActual);
-        ActualizarCombos(NodoActual);
-        return PeticionTecla::Ninguna;
-    case 46:
-        Eliminar();
-        return PeticionTecla::Ninguna;
-    case 113:
-        return PeticionTecla::EditarEtiqueta;
-    default:
-        return PeticionTecla::Ninguna;
-    }
-}
-
-void EdicionComponentes::Caracter(int caracter) {
-    if (caracter == 3) {
-        Copiar();
-    }
-}
-
-bool EdicionComponentes::Renombrar(const std::string& texto) {
-    NodoArbol* nodo = tvwArbol.Seleccionado();
-    if (nodo == nullptr) {
-        return false;
-    }
-    tvwArbol.CambiarTexto(nodo, texto);
-    Modificar();
-    ActualizarCombos(nodo);
-    return true;
 }
 
 } // namespace vadro

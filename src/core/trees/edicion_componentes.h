@@ -2,10 +2,8 @@
 
 #include "core/core/sesion.h"
 #include "core/trees/arbol.h"
-#include "core/trees/edicion_requerimientos.h"
+#include "core/trees/edicion_arbol.h"
 
-#include <array>
-#include <cstdint>
 #include <string>
 
 namespace vadro {
@@ -45,27 +43,9 @@ struct MenuArbolComponentes {
 // weights or descriptions, and with the same selectors, clipboard and drag as the
 // requirements tree. Every edit marks the model as modified; only `LlenarComponentes` writes
 // to it.
-class EdicionComponentes : private ObservadorArbol {
+class EdicionComponentes : public EdicionArbol<2> {
 public:
     explicit EdicionComponentes(Sesion& sesion);
-    ~EdicionComponentes() override;
-    EdicionComponentes(const EdicionComponentes&) = delete;
-    EdicionComponentes& operator=(const EdicionComponentes&) = delete;
-
-    Arbol tvwArbol;
-    Arbol tvwCopia;
-
-    int16_t ContadorClaves = 0;
-    NodoArbol* NodoActual = nullptr;
-    int NivelArrastre = 0;
-    NodoArbol* NodoDestino = nullptr;
-    int NivelCopia = 0;
-    bool Arrastrando = false;
-    bool PegarHabilitado = false;
-
-    std::array<SelectorNivel, 2> Selectores;
-    std::array<std::string, 2> TitulosMarcos;
-    SelectorNivel& Selector(int i);
 
     // The load: the tree from the model, the counter at the node count, the first node
     // selected and shown in the selectors.
@@ -77,46 +57,12 @@ public:
 
     void AñadirComponente(const std::string& texto);
     void AñadirSubcomponente(const std::string& texto);
-    void InsertarAntes();
-    void InsertarDespues();
-    void Eliminar();
-    void Copiar();
-    void Pegar();
-    void CopiaNodo(const NodoArbol* nodo, Arbol& arbolDestino, NodoArbol* padreDestino);
-    void Reordenar();
-
-    void ActualizarCombos(NodoArbol* nodo);
-    void LlenarCombos(NodoArbol* nodo);
-    void SubirContador(int i);
-    void BajarContador(int i);
-    void AbrirLista(int i);
-    void ElegirEnLista(int i, int posicion);
-    void EnfocarLista(int i);
-    void EscribirEnLista(int i, const std::string& texto);
-
-    void PulsarRaton(NodoArbol* nodo);
-    void MoverRaton(bool botonIzquierdo);
-    void ArrastrarSobre(NodoArbol* nodo);
-    void Soltar();
-    void SoltarRaton(NodoArbol* nodo);
+    void Reordenar() override;
+    void ActualizarCombos(NodoArbol* nodo) override;
     MenuArbolComponentes MenuContextual(NodoArbol* nodo);
-    PeticionTecla Tecla(int codigo);
-    void Caracter(int caracter);
-    bool Renombrar(const std::string& texto);
 
 private:
-    void AntesDeQuitar(const NodoArbol* nodo) override;
-    void AntesDeVaciar() override;
-    void SubirContadorClaves();
-    NodoArbol* AñadirNodo(NodoArbol* relativo, Relacion relacion, int nivel,
-                          const std::string& texto);
-    void InsertarJunto(Relacion lado);
-    void MostrarYSeleccionar(NodoArbol* nodo);
-    void PonerContador(int i, int valor);
-    void ClicLista(int i);
-    void Modificar();
-
-    Sesion& sesion_;
+    void AñadirNivel(int nivel, const std::string& texto) override;
 };
 
 } // namespace vadro

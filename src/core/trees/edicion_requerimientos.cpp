@@ -1,21 +1,10 @@
 #include "core/trees/edicion_requerimientos.h"
 
 #include "core/core/error_ejecucion.h"
-#include "core/core/mensajes.h"
 
 namespace vadro {
 
 namespace {
-
-// The counters of the window are 16-bit: passing their bound is an overflow, and the counter
-// keeps its old value.
-int16_t Sumar16(int16_t valor, int suma) {
-    const int resultado = valor + suma;
-    if (resultado > INT16_MAX || resultado < INT16_MIN) {
-        throw ErrorEjecucion(ErrDesbordamiento);
-    }
-    return static_cast<int16_t>(resultado);
-}
 
 // What an operation meets when it goes on with a node it never got.
 ErrorEjecucion ErrorSinObjeto() {
@@ -29,56 +18,29 @@ NodoArbol* PadreExigido(const NodoArbol* nodo) {
     return nodo->Padre();
 }
 
+// The requirements tree: one letter names a level, the level is the image, and the tree's
+// edits leave `Modificado` alone.
+constexpr ReglasArbol kReglas{
+    .letrasClave = 1,
+    .nivel = NivelNodo,
+    .prefijo = LetraNivel,
+    .imagen = ImagenNivel,
+    .textoNuevo = TextoNivel,
+    .imagenCopia = [](const NodoArbol& origen) { return NivelNodo(&origen); },
+    .destinoPermitido = DestinoPermitido,
+    .falloCopia =
+        [](const ErrorEjecucion& error) { return "Error grave en -11665\n" + error.Descripcion(); },
+    .marcaModificado = false,
+};
+
 } // namespace
 
-EdicionRequerimientos::EdicionRequerimientos(Sesion& sesion) : sesion_(sesion) {
-    tvwArbol.Observar(this);
-}
-
-EdicionRequerimientos::~EdicionRequerimientos() {
-    tvwArbol.DejarDeObservar(this);
-}
-
-// A removed node can no longer be the node in hand nor the drop target.
-void EdicionRequerimientos::AntesDeQuitar(const NodoArbol* nodo) {
-    if (NodoActual != nullptr && NodoActual->DentroDe(nodo)) {
-        NodoActual = nullptr;
-    }
-    if (NodoDestino != nullptr && NodoDestino->DentroDe(nodo)) {
-        NodoDestino = nullptr;
-    }
-}
-
-void EdicionRequerimientos::AntesDeVaciar() {
-    NodoActual = nullptr;
-    NodoDestino = nullptr;
-}
-
-SelectorNivel& EdicionRequerimientos::Selector(int i) {
-    if (i < 1 || i > 4) {
-        throw ErrorEjecucion(340, "El elemento " + std::to_string(i) +
-                                      " de la matriz de controles no existe");
-    }
-    return Selectores[static_cast<std::size_t>(i - 1)];
-}
-
-const SelectorNivel& EdicionRequerimientos::Selector(int i) const {
-    return const_cast<EdicionRequerimientos*>(this)->Selector(i);
-}
+EdicionRequerimientos::EdicionRequerimientos(Sesion& sesion) : EdicionArbol(sesion, kReglas) {}
 
 // ---- counters and the working table ----
 
-int16_t EdicionRequerimientos::SubirContadorClaves() {
-    ContadorClaves = Sumar16(ContadorClaves, 1);
-    return ContadorClaves;
-}
-
 void EdicionRequerimientos::FijarContadorClaves(int cuenta) {
     ContadorClaves = Sumar16(0, cuenta);
-}
-
-std::string EdicionRequerimientos::ClaveNueva(int nivel) const {
-    return LetraNivel(nivel) + " " + std::to_string(ContadorClaves);
 }
 
 NodoEdicion& EdicionRequerimientos::Registro(const NodoArbol* nodo) {
@@ -125,23 +87,9 @@ void EdicionRequerimientos::ReiniciarPesos(NodoArbol* padre) {
 
 // ---- additions ----
 
-NodoArbol* EdicionRequerimientos::AñadirNodo(NodoArbol* relativo, Relacion relacion, int nivel,
-                                             const std::string& texto) {
-    return tvwArbol.Añadir(relativo, relacion, ClaveNueva(nivel), texto, ImagenNivel(nivel));
-}
-
-void EdicionRequerimientos::MostrarYSeleccionar(NodoArbol* nodo) {
-    tvwArbol.AsegurarVisible(nodo);
-    tvwArbol.Seleccionar(nodo);
-}
-
 void EdicionRequerimientos::AñadirRequerimiento(const std::string& texto) {
     SubirContadorClaves();
-    NodoArbol* nuevo =
-        AñadirNodo(tvwArbol.Nodo(1), Relacion::UltimoHijo, NivelRequerimiento, texto);
-    CrearNodoEdicion(nuevo);
-    MostrarYSeleccionar(nuevo);
-    ActualizarCombos(nuevo);
+    ActualizarCombos(AñadirHijo(tvwArbol.Nodo(1), NivelRequerimiento, texto));
 }
 
 void EdicionRequerimientos::AñadirCriterio(const std::string& texto) {
@@ -164,10 +112,7 @@ void EdicionRequerimientos::AñadirCriterio(const std::string& texto) {
     default:
         throw ErrorSinObjeto();
     }
-    NodoArbol* nuevo = AñadirNodo(padre, Relacion::UltimoHijo, NivelCriterio, texto);
-    CrearNodoEdicion(nuevo);
-    MostrarYSeleccionar(nuevo);
-    ActualizarCombos(nuevo);
+    ActualizarCombos(AñadirHijo(padre, NivelCriterio, texto));
 }
 
 void EdicionRequerimientos::AñadirSubcriterio(const std::string& texto) {
@@ -188,9 +133,7 @@ void EdicionRequerimientos::AñadirSubcriterio(const std::string& texto) {
     default:
         throw ErrorSinObjeto();
     }
-    NodoArbol* nuevo = AñadirNodo(padre, Relacion::UltimoHijo, NivelSubcriterio, texto);
-    CrearNodoEdicion(nuevo);
-    MostrarYSeleccionar(nuevo);
+    NodoArbol* nuevo = AñadirHijo(padre, NivelSubcriterio, texto);
     if (TieneIndicadores(NodoActual)) {
         MoverHijos(NodoActual, nuevo, NivelIndicador);
     }
@@ -224,94 +167,53 @@ void EdicionRequerimientos::AñadirIndicador(const std::string& texto) {
     default:
         throw ErrorSinObjeto();
     }
-    NodoArbol* nuevo = AñadirNodo(padre, Relacion::UltimoHijo, NivelIndicador, texto);
-    CrearNodoEdicion(nuevo);
-    MostrarYSeleccionar(nuevo);
-    ActualizarCombos(nuevo);
+    ActualizarCombos(AñadirHijo(padre, NivelIndicador, texto));
 }
 
-void EdicionRequerimientos::InsertarAntes() { InsertarJunto(Relacion::Anterior); }
-
-void EdicionRequerimientos::InsertarDespues() { InsertarJunto(Relacion::Siguiente); }
-
-// A default node of the selected node's level, beside it.
-void EdicionRequerimientos::InsertarJunto(Relacion lado) {
-    SubirContadorClaves();
-    NodoActual = tvwArbol.Seleccionado();
-    if (NodoActual == nullptr) {
-        return;
+void EdicionRequerimientos::AñadirNivel(int nivel, const std::string& texto) {
+    switch (nivel) {
+    case NivelRequerimiento:
+        AñadirRequerimiento(texto);
+        break;
+    case NivelCriterio:
+        AñadirCriterio(texto);
+        break;
+    case NivelSubcriterio:
+        AñadirSubcriterio(texto);
+        break;
+    default:
+        AñadirIndicador(texto);
+        break;
     }
-    const int nivel = NivelNodo(NodoActual);
-    CrearNodoEdicion(AñadirNodo(NodoActual, lado, nivel, TextoNivel(nivel, sesion_.modelo)));
+}
+
+// Every node the user adds gets its record; the criterion an indicator brings along does not.
+void EdicionRequerimientos::NodoCreado(NodoArbol* nodo) {
+    CrearNodoEdicion(nodo);
 }
 
 // ---- removal ----
 
-void EdicionRequerimientos::Eliminar() {
-    NodoActual = tvwArbol.Seleccionado();
-    // The root stays: the delete key reaches here without a test.
-    if (NodoActual == nullptr || NodoActual == tvwArbol.Nodo(1)) {
-        return;
+// The root stays: the delete key reaches here without a test.
+bool EdicionRequerimientos::AntesDeEliminar(NodoArbol* nodo) {
+    if (nodo == tvwArbol.Nodo(1)) {
+        return false;
     }
-    NodoArbol* siguiente =
-        NodoActual->Anterior() != nullptr ? NodoActual->Anterior() : NodoActual->Siguiente();
-    NodoArbol* padre = NodoActual->Padre();
+    NodoArbol* padre = nodo->Padre();
     if (padre != nullptr && padre->Tag() && *padre->Tag() > 0) {
         Registro(padre).PesosBorrados = true;
     }
     // The rows are sized with the node still counted, and before the question: a No keeps the
     // node but not the weights of its siblings.
     ReiniciarPesos(padre);
-    bool quitar = true;
-    if (NodoActual->NumHijos() > 0) {
-        quitar = MsgBox("El elemento selecionado tiene uno o más subnodos. Está seguro que "
-                        "quiere eliminarlo?",
-                        Botones::SiNo, Icono::Pregunta,
-                        "VADRO PROGRAMADOR: eliminar nodo") == Respuesta::Si;
-    }
-    if (quitar) {
-        tvwArbol.Quitar(NodoActual);
-    }
-    if (siguiente != nullptr) {
-        tvwArbol.Seleccionar(siguiente);
-    }
-    Reordenar();
-    ActualizarCombos(siguiente);
+    return true;
 }
 
-// ---- clipboard and keys ----
-
-void EdicionRequerimientos::Copiar() {
-    NodoArbol* nodo = tvwArbol.Seleccionado();
-    if (nodo == nullptr) {
-        return;
-    }
-    PegarHabilitado = true;
-    tvwCopia.Vaciar();
-    CopiaNodo(tvwArbol, nodo, tvwCopia, nullptr);
-}
-
-void EdicionRequerimientos::Pegar() {
-    if (tvwCopia.Vacio()) {
-        return;
-    }
-    CopiaNodo(tvwCopia, tvwCopia.Nodo(1), tvwArbol, tvwArbol.Seleccionado());
-    Reordenar();
-}
+// ---- clipboard ----
 
 void EdicionRequerimientos::CopiaNodo(const Arbol& /*arbolOrigen*/, const NodoArbol* nodo,
                                       Arbol& arbolDestino, NodoArbol* padreDestino) {
-    const auto nuevaClave = [this](const NodoArbol& origen) {
-        SubirContadorClaves();
-        return origen.Key().substr(0, 1) + " " + std::to_string(ContadorClaves);
-    };
-    const auto imagen = [](const NodoArbol& origen) { return NivelNodo(&origen); };
-    try {
-        CopiarRama(*nodo, arbolDestino, padreDestino, nuevaClave, imagen);
-    } catch (const ErrorEjecucion& error) {
-        MsgBox("Error grave en -11665\n" + error.Descripcion(), Botones::Aceptar, Icono::Critico,
-               "VADRO PROGRAMADOR");
-    }
+    CopiaNodo(nodo, arbolDestino, padreDestino);
 }
 
 void EdicionRequerimientos::Reordenar() {

@@ -2,35 +2,15 @@
 
 #include "core/core/sesion.h"
 #include "core/trees/arbol.h"
+#include "core/trees/edicion_arbol.h"
 #include "core/trees/niveles.h"
 
 #include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace vadro {
-
-// One level selector of the requirements window: the list of names with free text
-// (`cbbNodos`), the hidden parallel list of keys (`cbbNodosAux`), the spin counter
-// (`updNodos`) and its label (`lblNumNodos`).
-struct SelectorNivel {
-    std::vector<std::string> Nombres;
-    std::vector<std::string> Claves;
-    int Seleccion = 0;      // chosen entry of the names, from 1; 0 for none
-    int SeleccionClave = 0; // chosen entry of the keys
-    std::string Texto;      // the text shown in the list
-    bool Bloqueada = true;  // locked against typing
-    bool ListaHabilitada = false;
-    int Contador = 0;
-    bool ContadorHabilitado = false;
-    std::string Etiqueta = "0";
-    std::string Marca; // "Usuario" once the user opened the list, "Auto" once a click acted
-
-    // The text of the key list: the chosen key, or empty.
-    std::string ClaveElegida() const;
-};
 
 // What the tree menu shows for the node it was opened on.
 struct MenuArbol {
@@ -49,40 +29,18 @@ struct MenuArbol {
     bool PegarHabilitado = false;
 };
 
-// What a key on the tree asks of the window beyond the logic.
-enum class PeticionTecla { Ninguna, EditarEtiqueta };
-
-// The logic of the requirements window: the working tree and its clipboard, the window's state
-// and every operation on them. The working table `NodosEdicion` and `NodoEdicionActual` are in
-// the session. Nothing here writes to the model but `LlenarRequerimientos`.
-class EdicionRequerimientos : private ObservadorArbol {
+// The logic of the requirements window: the working tree of five levels under the model's root,
+// with what only this tree has: the working table, weights, descriptions and the function
+// button. The working table `NodosEdicion` and `NodoEdicionActual` are in the session. Nothing
+// here writes to the model but `LlenarRequerimientos`, and no edit marks it as modified.
+class EdicionRequerimientos : public EdicionArbol<4> {
 public:
     explicit EdicionRequerimientos(Sesion& sesion);
-    ~EdicionRequerimientos() override;
-    EdicionRequerimientos(const EdicionRequerimientos&) = delete;
-    EdicionRequerimientos& operator=(const EdicionRequerimientos&) = delete;
 
-    Arbol tvwArbol;
-    Arbol tvwCopia; // the clipboard, never shown
-
-    int16_t ContadorClaves = 0;       // the last number used in a new key
     int16_t SiguienteNodoEdicion = 0; // the next free row of the working table
-    NodoArbol* NodoActual = nullptr;
-    int NivelArrastre = 0;
-    NodoArbol* NodoDestino = nullptr;
-    int NivelCopia = 0;
-    bool Arrastrando = false;
-
-    std::array<SelectorNivel, 4> Selectores;
     std::array<int, 4> UltimasPosiciones{};
-    std::array<std::string, 4> TitulosMarcos; // captions of fmeNodos(1) to fmeNodos(4)
-    std::string Descripcion;                  // the text shown in txtDescripcion
-    bool FuncionHabilitada = false;           // cmdFuncion
-    bool PegarHabilitado = false;             // mnuPegar, as the last copy left it
-
-    // Selector i, from 1 to 4; another number is a subscript error.
-    SelectorNivel& Selector(int i);
-    const SelectorNivel& Selector(int i) const;
+    std::string Descripcion;        // the text shown in txtDescripcion
+    bool FuncionHabilitada = false; // cmdFuncion
 
     // ---- opening and writing back ----
 
@@ -103,65 +61,37 @@ public:
     void AñadirCriterio(const std::string& texto);
     void AñadirSubcriterio(const std::string& texto);
     void AñadirIndicador(const std::string& texto);
-    void InsertarAntes();
-    void InsertarDespues();
-    void Eliminar();
-    void Copiar();
-    void Pegar();
+    using EdicionArbol::CopiaNodo;
+    // The copy as the window names it, with the source tree it never reads.
     void CopiaNodo(const Arbol& arbolOrigen, const NodoArbol* nodo, Arbol& arbolDestino,
                    NodoArbol* padreDestino);
-    void Reordenar();
+    void Reordenar() override;
     void MoverHijos(NodoArbol* nodo, NodoArbol* nuevoPadre, int nivel);
     void CrearNodoEdicion(NodoArbol* nodo);
     void ReiniciarPesos(NodoArbol* padre);
 
-    // ---- selectors ----
+    // ---- selectors, menu, labels and the other controls ----
 
-    void ActualizarCombos(NodoArbol* nodo);
-    void LlenarCombos(NodoArbol* nodo);
-    // The spin counter of selector i: up adds a node of level i, down removes the node the
-    // selector shows.
-    void SubirContador(int i);
-    void BajarContador(int i);
-    void AbrirLista(int i);                                // the drop-down opens
-    void ElegirEnLista(int i, int posicion);               // the user clicks an entry
-    void EnfocarLista(int i);                              // the list gets the focus
-    void EscribirEnLista(int i, const std::string& texto); // the user types in the list
-
-    // ---- pointer, keys, labels and the other controls ----
-
-    void PulsarRaton(NodoArbol* nodo);    // mouse down on the tree
-    void MoverRaton(bool botonIzquierdo); // mouse move on the tree
-    void ArrastrarSobre(NodoArbol* nodo); // the node under the pointer during a drag
-    void Soltar();                        // the drop
-    void SoltarRaton(NodoArbol* nodo);    // mouse up on the tree
+    void ActualizarCombos(NodoArbol* nodo) override;
     // The menu of a right-button release on the tree, after its selection.
     MenuArbol MenuContextual(NodoArbol* nodo);
-    PeticionTecla Tecla(int codigo);
-    void Caracter(int caracter);
-    // The end of an in-place edit of the selected node's label; false when the new text is
-    // refused and the label keeps the old one.
-    bool Renombrar(const std::string& texto);
+    // As in any tree, but a node keyed "P" asks first and takes the text in lower case.
+    bool Renombrar(const std::string& texto) override;
     void CambiarDescripcion(const std::string& texto);
     // The function button: gives the indicator's name for the function editor, or nothing
     // without a selected node.
     std::optional<std::string> ClicFuncion();
 
 private:
-    void InsertarJunto(Relacion lado);
-    void AntesDeQuitar(const NodoArbol* nodo) override;
-    void AntesDeVaciar() override;
+    void AñadirNivel(int nivel, const std::string& texto) override;
+    void NodoCreado(NodoArbol* nodo) override;
+    bool AntesDeEliminar(NodoArbol* nodo) override;
+    void MoverArrastrado(NodoArbol* destino) override;
+    void RecordarPosicion(int i) override;
 
-    int16_t SubirContadorClaves();
     void FijarContadorClaves(int cuenta);
-    std::string ClaveNueva(int nivel) const;
-    NodoArbol* AñadirNodo(NodoArbol* relativo, Relacion relacion, int nivel,
-                          const std::string& texto);
-    void MostrarYSeleccionar(NodoArbol* nodo);
     void NuevoRegistro(NodoArbol* nodo);
     NodoEdicion& Registro(const NodoArbol* nodo);
-    void PonerContador(int i, int valor);
-    void ClicLista(int i);
     void FijarHabilitados(const NodoArbol* nodo);
     void FijarTitulos(const NodoArbol* nodo);
     void EscribirRequerimiento(Modelo& modelo, NodoRequerimiento& requerimiento, NodoArbol* nodo,
@@ -170,8 +100,6 @@ private:
                           const std::string& clave);
     bool EscribirCabecera(CabeceraNodo& destino, NodoArbol* nodo, const std::string& clave,
                           const NodoArbol* filaDePrueba, int cuentaDePrueba);
-
-    Sesion& sesion_;
 };
 
 } // namespace vadro

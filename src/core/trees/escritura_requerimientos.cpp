@@ -1,8 +1,6 @@
 #include "core/trees/arbol_modelo.h"
 #include "core/trees/edicion_requerimientos.h"
 
-#include "core/core/error_ejecucion.h"
-
 namespace vadro {
 
 namespace {
@@ -16,36 +14,17 @@ int CotaFila(const Arreglo<ValorLibre>& fila) {
     return fila.Presente() ? fila.Cota() : -1;
 }
 
-int16_t SiguienteIndice(int16_t n) {
-    if (n == INT16_MAX) {
-        throw ErrorEjecucion(ErrDesbordamiento);
-    }
-    return static_cast<int16_t>(n + 1);
-}
-
 } // namespace
 
 void EdicionRequerimientos::Abrir() {
-    NodoActual = nullptr;
-    NodoDestino = nullptr;
-    NivelArrastre = 0;
-    NivelCopia = 0;
-    Arrastrando = false;
-    PegarHabilitado = false;
+    Reiniciar();
     UltimasPosiciones = {};
-    Selectores = {}; // the controls come fresh with the window
-    tvwCopia.Vaciar();
     Modelo& modelo = sesion_.modelo;
     LlenarArbol(tvwArbol, modelo, false, false, false);
     LlenarNodosEdicion(modelo, sesion_.NodosEdicion);
     FijarContadorClaves(tvwArbol.Cuenta());
     if (tvwArbol.Vacio()) {
-        for (SelectorNivel& selector : Selectores) {
-            selector.Nombres.clear();
-            selector.Claves.clear();
-            selector.ListaHabilitada = false;
-        }
-        return;
+        return; // the selectors stay as the reset left them: empty and disabled
     }
     NodoArbol* primero = tvwArbol.Nodo(1);
     tvwArbol.Seleccionar(primero);
@@ -60,7 +39,7 @@ void EdicionRequerimientos::LlenarNodosEdicion(const Modelo& modelo, Arreglo<Nod
     if (!modelo.NumRequerimientos.EsVacio()) {
         // The same walk as the tree's fill, so that the node at position n is the record's.
         const auto registrar = [&](const CabeceraNodo& cabecera) -> NodoEdicion& {
-            n = SiguienteIndice(n);
+            n = Sumar16(n, 1);
             tvwArbol.CambiarTag(tvwArbol.Nodo(n), n);
             tabla.RedimensionarConservando(n);
             NodoEdicion& registro = tabla(n);
@@ -91,7 +70,7 @@ void EdicionRequerimientos::LlenarNodosEdicion(const Modelo& modelo, Arreglo<Nod
             }
         }
     }
-    SiguienteNodoEdicion = SiguienteIndice(n);
+    SiguienteNodoEdicion = Sumar16(n, 1);
 }
 
 // Name and key always; the rest only from a node with a record. A node without one gets it

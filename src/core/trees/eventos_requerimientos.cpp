@@ -6,62 +6,22 @@ namespace vadro {
 
 // ---- pointer ----
 
-void EdicionRequerimientos::PulsarRaton(NodoArbol* nodo) {
-    NodoActual = nodo;
-}
-
-void EdicionRequerimientos::MoverRaton(bool botonIzquierdo) {
-    if (!botonIzquierdo || NodoActual == nullptr || Arrastrando) {
-        return;
-    }
-    NivelArrastre = NivelNodo(NodoActual);
-    Arrastrando = true;
-    NodoDestino = nullptr; // so that the first node under the pointer is always tested
-}
-
-void EdicionRequerimientos::ArrastrarSobre(NodoArbol* nodo) {
-    if (!Arrastrando || nodo == NodoDestino) {
-        return;
-    }
-    NodoDestino = nodo;
-    const bool permitido = nodo != nullptr && DestinoPermitido(NivelArrastre, nodo);
-    tvwArbol.Resaltar(permitido ? nodo : nullptr);
-}
-
-void EdicionRequerimientos::Soltar() {
-    if (!Arrastrando) {
-        return;
-    }
-    Arrastrando = false;
-    NodoArbol* destino = tvwArbol.ResaltadoDestino();
-    if (destino != nullptr && NodoActual != nullptr && NodoActual->Padre() != nullptr) {
-        NodoArbol* padreViejo = NodoActual->Padre();
-        if (destino == padreViejo) {
-            // Last among its siblings, weights untouched, though rows and matrix columns no
-            // longer follow the same order.
-            tvwArbol.Mover(NodoActual, padreViejo);
-        } else if (MsgBox("En caso de haber sido introducidas, se borrarán las matrices de pesos "
-                          "correspondientes a los nodos:\n- " +
-                              padreViejo->Text() + "\n- " + destino->Text() +
-                              "\n\nEstá usted seguro de querer mover el elemento seleccionado?",
-                          Botones::SiNo, Icono::Pregunta,
-                          "VADRO PROGRAMADOR: mover nodo") == Respuesta::Si) {
-            tvwArbol.Mover(NodoActual, destino);
-            ReiniciarPesos(padreViejo);
-            ReiniciarPesos(destino);
-        }
-        tvwArbol.Resaltar(nullptr);
-    }
-    ActualizarCombos(NodoActual);
-}
-
-void EdicionRequerimientos::SoltarRaton(NodoArbol* nodo) {
-    NodoActual = nodo;
-    tvwArbol.Seleccionar(nodo);
-    NivelArrastre = NivelNodo(nodo);
-    ActualizarCombos(nodo);
-    if (!tvwCopia.Vacio()) {
-        NivelCopia = NivelNodo(tvwCopia.Nodo(1));
+// A move to another parent loses the weights of both sibling sets, so it asks first.
+void EdicionRequerimientos::MoverArrastrado(NodoArbol* destino) {
+    NodoArbol* padreViejo = NodoActual->Padre();
+    if (destino == padreViejo) {
+        // Last among its siblings, weights untouched, though rows and matrix columns no
+        // longer follow the same order.
+        tvwArbol.Mover(NodoActual, padreViejo);
+    } else if (MsgBox("En caso de haber sido introducidas, se borrarán las matrices de pesos "
+                      "correspondientes a los nodos:\n- " +
+                          padreViejo->Text() + "\n- " + destino->Text() +
+                          "\n\nEstá usted seguro de querer mover el elemento seleccionado?",
+                      Botones::SiNo, Icono::Pregunta,
+                      "VADRO PROGRAMADOR: mover nodo") == Respuesta::Si) {
+        tvwArbol.Mover(NodoActual, destino);
+        ReiniciarPesos(padreViejo);
+        ReiniciarPesos(destino);
     }
 }
 
@@ -102,55 +62,23 @@ MenuArbol EdicionRequerimientos::MenuContextual(NodoArbol* nodo) {
     menu.RenombrarVisible = hayNodo;
     menu.Separadores23Visible = hayNodo;
     menu.PegarVisible = true;
-    menu.PegarHabilitado = DestinoPermitido(NivelCopia, NodoActual);
-    PegarHabilitado = menu.PegarHabilitado;
+    menu.PegarHabilitado = PermitirPegar();
     return menu;
 }
 
-// ---- keys and labels ----
-
-PeticionTecla EdicionRequerimientos::Tecla(int codigo) {
-    switch (codigo) {
-    case 37:
-    case 38:
-    case 39:
-    case 40:
-        NodoActual = tvwArbol.Seleccionado();
-        NivelArrastre = NivelNodo(NodoActual);
-        ActualizarCombos(NodoActual);
-        return PeticionTecla::Ninguna;
-    case 46:
-        Eliminar();
-        return PeticionTecla::Ninguna;
-    case 113:
-        return PeticionTecla::EditarEtiqueta;
-    default:
-        return PeticionTecla::Ninguna;
-    }
-}
-
-void EdicionRequerimientos::Caracter(int caracter) {
-    if (caracter == 3) { // Ctrl+C; there is no key for paste
-        Copiar();
-    }
-}
+// ---- labels ----
 
 bool EdicionRequerimientos::Renombrar(const std::string& texto) {
     NodoArbol* nodo = tvwArbol.Seleccionado();
-    if (nodo == nullptr) {
+    if (nodo == nullptr || nodo->Key() != "P") {
+        return EdicionArbol::Renombrar(texto);
+    }
+    // A node keyed "P" would name the model; the root of this tree is keyed "M".
+    if (MsgBox("Está seguro que quiere cambiar el nombre del modelo?", Botones::SiNo,
+               Icono::Pregunta, "VADRO PROGRAMADOR: cambio de nombre") != Respuesta::Si) {
         return false;
     }
-    if (nodo->Key() == "P") {
-        // A node keyed "P" would name the model; the root of this tree is keyed "M".
-        if (MsgBox("Está seguro que quiere cambiar el nombre del modelo?", Botones::SiNo,
-                   Icono::Pregunta, "VADRO PROGRAMADOR: cambio de nombre") != Respuesta::Si) {
-            return false;
-        }
-        tvwArbol.CambiarTexto(nodo, EnMinusculas(texto));
-        return true;
-    }
-    tvwArbol.CambiarTexto(nodo, texto);
-    ActualizarCombos(nodo);
+    tvwArbol.CambiarTexto(nodo, EnMinusculas(texto));
     return true;
 }
 

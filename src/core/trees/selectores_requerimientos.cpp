@@ -2,34 +2,8 @@
 
 namespace vadro {
 
-std::string SelectorNivel::ClaveElegida() const {
-    const auto posicion = static_cast<std::size_t>(SeleccionClave);
-    return SeleccionClave >= 1 && posicion <= Claves.size() ? Claves[posicion - 1] : "";
-}
-
-// The counter's change event: its label follows any value that is not negative.
-void EdicionRequerimientos::PonerContador(int i, int valor) {
-    SelectorNivel& selector = Selector(i);
-    if (selector.Contador == valor) {
-        return;
-    }
-    selector.Contador = valor;
-    if (valor >= 0) {
-        selector.Etiqueta = std::to_string(valor);
-    }
-}
-
 void EdicionRequerimientos::ActualizarCombos(NodoArbol* nodo) {
-    for (int i = 1; i <= 4; ++i) {
-        SelectorNivel& selector = Selector(i);
-        selector.Nombres.clear();
-        selector.Texto.clear();
-        selector.Seleccion = 0;
-        selector.Bloqueada = true;
-        PonerContador(i, 0);
-        selector.Claves.clear();
-        selector.SeleccionClave = 0;
-    }
+    VaciarSelectores();
     FijarHabilitados(nodo);
     if (nodo == nullptr) {
         Descripcion.clear();
@@ -41,31 +15,6 @@ void EdicionRequerimientos::ActualizarCombos(NodoArbol* nodo) {
         Descripcion = nodo->Tag() ? Registro(nodo).Descripcion : "";
     }
     FijarTitulos(nodo);
-}
-
-void EdicionRequerimientos::LlenarCombos(NodoArbol* nodo) {
-    for (NodoArbol* actual = nodo; actual != nullptr; actual = actual->Padre()) {
-        // The level comes from the node, not from its depth: a criterion made inside a
-        // criterion fills selector 2 from there.
-        const int i = NivelNodo(actual);
-        SelectorNivel& selector = Selector(i);
-        selector.Bloqueada = false;
-        for (NodoArbol* hermano = actual->PrimerHermano(); hermano != nullptr;
-             hermano = hermano->Siguiente()) {
-            selector.Nombres.push_back(hermano->Text());
-            selector.Claves.push_back(hermano->Key());
-            PonerContador(i, selector.Contador + 1);
-            if (hermano == actual) {
-                selector.Seleccion = static_cast<int>(selector.Nombres.size());
-                selector.Texto = hermano->Text();
-                ClicLista(i); // a choice made by the program raises the click as well
-                selector.SeleccionClave = selector.Seleccion;
-            }
-        }
-        if (i < 2) {
-            break;
-        }
-    }
 }
 
 void EdicionRequerimientos::FijarHabilitados(const NodoArbol* nodo) {
@@ -130,90 +79,9 @@ void EdicionRequerimientos::FijarTitulos(const NodoArbol* nodo) {
     }
 }
 
-// ---- events of the selectors ----
-
-void EdicionRequerimientos::SubirContador(int i) {
-    SelectorNivel& selector = Selector(i);
-    if (!selector.ContadorHabilitado) {
-        return;
-    }
-    PonerContador(i, selector.Contador + 1);
-    switch (i) {
-    case NivelRequerimiento:
-        AñadirRequerimiento("Requerimiento");
-        break;
-    case NivelCriterio:
-        AñadirCriterio("Criterio");
-        break;
-    case NivelSubcriterio:
-        AñadirSubcriterio("Subcriterio");
-        break;
-    default:
-        AñadirIndicador("Indicador");
-        break;
-    }
-    Selector(i).ListaHabilitada = true;
-}
-
-void EdicionRequerimientos::BajarContador(int i) {
-    SelectorNivel& selector = Selector(i);
-    // At 0 there is nothing to remove: the key list holds no key to look for.
-    if (!selector.ContadorHabilitado || selector.Contador <= 0) {
-        return;
-    }
-    PonerContador(i, selector.Contador - 1);
-    // The node the selector shows goes, not the last one.
-    tvwArbol.Seleccionar(tvwArbol.NodoPorClave(selector.ClaveElegida()));
-    Eliminar();
-    if (selector.Etiqueta == "0") {
-        selector.ListaHabilitada = false;
-    }
-}
-
-void EdicionRequerimientos::AbrirLista(int i) {
-    SelectorNivel& selector = Selector(i);
-    if (selector.ListaHabilitada) {
-        selector.Marca = "Usuario";
-    }
-}
-
-void EdicionRequerimientos::ElegirEnLista(int i, int posicion) {
-    SelectorNivel& selector = Selector(i);
-    if (!selector.ListaHabilitada || posicion < 1 ||
-        posicion > static_cast<int>(selector.Nombres.size())) {
-        return;
-    }
-    selector.Seleccion = posicion;
-    selector.Texto = selector.Nombres[static_cast<std::size_t>(posicion - 1)];
-    ClicLista(i);
-}
-
-// The click of a list acts only after the user opened it: the program's own choices raise the
-// click too, and must not act.
-void EdicionRequerimientos::ClicLista(int i) {
-    SelectorNivel& selector = Selector(i);
-    if (selector.Marca != "Usuario") {
-        return;
-    }
-    selector.Marca = "Auto";
-    selector.SeleccionClave = selector.Seleccion;
-    UltimasPosiciones[static_cast<std::size_t>(i - 1)] = selector.Seleccion;
-    tvwArbol.Seleccionar(tvwArbol.NodoPorClave(selector.ClaveElegida()));
-}
-
-void EdicionRequerimientos::EnfocarLista(int i) {
-    const int seleccion = Selector(i).Seleccion;
-    UltimasPosiciones[static_cast<std::size_t>(i - 1)] = seleccion;
-}
-
-void EdicionRequerimientos::EscribirEnLista(int i, const std::string& texto) {
-    SelectorNivel& selector = Selector(i);
-    if (!selector.ListaHabilitada || selector.Bloqueada) {
-        return;
-    }
-    selector.Texto = texto;
-    tvwArbol.Seleccionar(tvwArbol.NodoPorClave(selector.ClaveElegida()));
-    tvwArbol.CambiarTexto(tvwArbol.Seleccionado(), texto);
+// The window keeps each list's last position, on a click and when the list gets the focus.
+void EdicionRequerimientos::RecordarPosicion(int i) {
+    UltimasPosiciones[static_cast<std::size_t>(i - 1)] = Selector(i).Seleccion;
 }
 
 } // namespace vadro
