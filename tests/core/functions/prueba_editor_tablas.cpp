@@ -449,22 +449,6 @@ TEST_F(Tablas, AScoringFunctionWithoutElementsIsAskedAboutAndAnOptionalOneIsNot)
     EXPECT_EQ(registro.Optativos(2).Nombre, "B");
 }
 
-TEST_F(Tablas, TheOptionalPanelStandsAloneUnderEitherTab) {
-    Cargar(pruebas::DePuntuacion());
-    editor.ClickOptativos(true);
-    EXPECT_EQ(editor.paneles, (Paneles{false, true, false, false, true, false, true}));
-    EXPECT_EQ(editor.Pestana, kPestanaFuncion) << "ticking selects the first tab";
-    for (int pestana : {kPestanaPuntuacion, kPestanaFuncion}) {
-        editor.ClickPestana(pestana);
-        EXPECT_EQ(editor.paneles, (Paneles{false, true, false, false, true, false, true}));
-    }
-    editor.ClickPestana(kPestanaPuntuacion);
-    editor.ClickOptativos(false);
-    EXPECT_TRUE(editor.paneles.Tablas) << "the kind's click again: scoring, second tab";
-    EXPECT_TRUE(editor.TipoHabilitado);
-    EXPECT_TRUE(editor.PlantillasHabilitadas);
-}
-
 TEST_F(Tablas, TheSecondInstanceStartsAFunctionWithoutKindAsAContinuousOne) {
     FuncionOptativo vacia;
     EditorFuncion e;
