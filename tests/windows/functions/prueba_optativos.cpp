@@ -2,26 +2,21 @@
 #include "editor_abierto.h"
 #include "soporte/guion_modales.h"
 #include "soporte/modelo_sano.h"
-#include "soporte/prueba_sesion.h"
 #include "soporte/volcado_ventana.h"
-#include "windows/functions/arriba_abajo.h"
 #include "windows/functions/frmFuncionValor.h"
 #include "windows/functions/panel_optativos.h"
 #include "windows/functions/panel_puntuacion.h"
 #include "windows/functions/pintar_grafica.h"
 
 #include <QAbstractItemModelTester>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
-#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -30,56 +25,14 @@
 namespace vadro {
 namespace {
 
+using pruebas::Celda;
+using pruebas::Flecha;
 using pruebas::Hijo;
+using pruebas::Teclear;
+using pruebas::Texto;
 
 const std::string kTitulo = "VADRO PROGRAMADOR";
 const std::string kSeleccione = "Seleccione primero un indicador en la tabla de indicadores.";
-
-// One click on an up-down control.
-void Flecha(ArribaAbajo* control, bool arriba) {
-    const auto botones = control->findChildren<QToolButton*>();
-    botones[arriba ? 0 : 1]->click();
-}
-
-// Typed letters, each as the text of a key: the test's key tables know only ASCII.
-void Letras(QWidget* destino, const QString& texto) {
-    for (const QChar letra : texto) {
-        QKeyEvent pulsada(QEvent::KeyPress, 0, Qt::NoModifier, QString(letra));
-        QApplication::sendEvent(destino, &pulsada);
-        QKeyEvent soltada(QEvent::KeyRelease, 0, Qt::NoModifier, QString(letra));
-        QApplication::sendEvent(destino, &soltada);
-    }
-}
-
-// Types into an input in place of its text, as a user who selected it all.
-void Teclear(QLineEdit* entrada, const QString& texto) {
-    entrada->setFocus();
-    entrada->selectAll();
-    Letras(entrada, texto);
-}
-
-// Types a cell through a grid's floating input, the first key on the grid, and ends with a key.
-void Celda(QTableView* rejilla, QLineEdit* entrada, int fila, int columna, const QString& texto,
-           Qt::Key fin = Qt::Key_Return) {
-    rejilla->setFocus();
-    rejilla->setCurrentIndex(rejilla->model()->index(fila - 1, columna));
-    Letras(rejilla, texto.left(1));
-    ASSERT_TRUE(entrada->isVisible());
-    Letras(entrada, texto.mid(1));
-    QTest::keyClick(entrada, fin);
-}
-
-QString Texto(QTableView* rejilla, int fila, int columna) {
-    return rejilla->model()->index(fila - 1, columna).data().toString();
-}
-
-void ElegirTipo(frmFuncionValor& ventana, int indice) {
-    auto* combo = ventana.cbbTipoFuncionPrimaria;
-    combo->setFocus();
-    while (combo->currentIndex() < indice) {
-        QTest::keyClick(combo, Qt::Key_Down);
-    }
-}
 
 void ClickPestana(frmFuncionValor& ventana, int indice) {
     QTabBar* pestanas = ventana.tspSeleccion;
@@ -107,7 +60,6 @@ protected:
         QTest::mouseClick(rejilla->viewport(), Qt::LeftButton, {}, celda.center());
     }
     void DobleClickGrafica() { QTest::mouseDClick(Panel().pctGraficaOptativos, Qt::LeftButton); }
-    void Aceptar() { QTest::mouseClick(ventana->cmdAceptar, Qt::LeftButton); }
 };
 
 TEST_F(Optativos, ThreeIndicatorsTwoSelectableEachWithItsFunction) {
@@ -156,17 +108,9 @@ TEST_F(Optativos, ThreeIndicatorsTwoSelectableEachWithItsFunction) {
 
     modales.Esperar(QStringLiteral("frmFuncionValor"), [](QDialog& d) {
         frmFuncionValor& segunda = Segunda(d);
-        ElegirTipo(segunda, kTipoEscalon);
-        for (int i = 0; i < 3; ++i) {
-            Flecha(segunda.updIntervalos, true);
-        }
-        const char* celdas[3][3] = {{"=0", "<10", "0"}, {"=10", "<20", "0.5"}, {"=20", "=30", "1"}};
-        for (int fila = 1; fila <= 3; ++fila) {
-            for (int columna = 1; columna <= 3; ++columna) {
-                Celda(segunda.grdIntervalos, segunda.txtValor, fila, columna,
-                      QString::fromUtf8(celdas[fila - 1][columna - 1]));
-            }
-        }
+        pruebas::ElegirTipo(segunda, kTipoEscalon);
+        pruebas::Escalones(segunda,
+                           {{"=0", "<10", "0"}, {"=10", "<20", "0.5"}, {"=20", "=30", "1"}});
         Teclear(Hijo<QLineEdit>(d, "txtUnidades"), QStringLiteral("bar"));
         QTest::mouseClick(segunda.cmdAceptar, Qt::LeftButton);
     });
@@ -174,17 +118,6 @@ TEST_F(Optativos, ThreeIndicatorsTwoSelectableEachWithItsFunction) {
     EXPECT_TRUE(ventana->editor.GraficaOptativo.Visibles().empty()) << "row 2 has no function";
     DobleClickGrafica();
     EXPECT_EQ(ventana->editor.GraficaOptativo, GraficarOptativo(sesion().FuncionesEdicion(2)));
-
-    modales.Esperar(QStringLiteral("frmFuncionValor"), [](QDialog& d) {
-        frmFuncionValor& segunda = Segunda(d);
-        Teclear(Hijo<QLineEdit>(d, "txtMinRef"), QStringLiteral("5"));
-        Teclear(Hijo<QLineEdit>(d, "txtMaxRef"), QStringLiteral("1"));
-        QTest::mouseClick(segunda.cmdFuncion[1], Qt::LeftButton); // "Convexa"
-        QTest::mouseClick(segunda.cmdAceptar, Qt::LeftButton);
-    });
-    Elegir(3);
-    DobleClickGrafica();
-    EXPECT_EQ(modales.Vistas().size(), 3U);
 
     Aceptar();
     EXPECT_FALSE(ventana->isVisible());
@@ -218,7 +151,7 @@ TEST_F(Optativos, TheSecondWindowCancelledLeavesTheRowsFunctionAsItWas) {
 
 TEST_F(Optativos, TwoBooleansAndANumericWithItsMinimumAboveItsMaximumAreStored) {
     Abrir(pruebas::Continua());
-    ElegirTipo(*ventana, kTipoPuntuacion);
+    pruebas::ElegirTipo(*ventana, kTipoPuntuacion);
     ClickPestana(*ventana, 1);
     ASSERT_TRUE(Tablas().isVisible());
     EXPECT_FALSE(ventana->pctFondoGrafica->isVisible());
