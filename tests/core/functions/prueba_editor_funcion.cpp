@@ -384,37 +384,6 @@ TEST_F(Editor, TheReferenceLabelsListTheStepsWorthZeroAndOne) {
     acta.Comparar("editor_funcion/etiquetas_ref.txt");
 }
 
-TEST_F(Editor, TheCountOfIntervalsGrowsFreelyAndShrinksOnlyWhenConfirmed) {
-    editor.Tipo = kTipoEscalon;
-    EXPECT_EQ(editor.Filas, (std::vector<FilaIntervalo>{{" -", " -", " -", " -"}}));
-    editor.CambiarIntervalos(1);
-    EXPECT_EQ(editor.Filas, (std::vector<FilaIntervalo>{{"1", "", "", ""}}));
-    EXPECT_TRUE(editor.RejillaHabilitada);
-    editor.CambiarIntervalos(3);
-    editor.Filas[2][1] = "=20";
-    EXPECT_EQ(editor.Filas.back()[0], "3");
-    confirmar = false;
-    editor.CambiarIntervalos(2);
-    EXPECT_EQ(editor.Intervalos, 3) << "declined: the count and the rows stay";
-    EXPECT_EQ(editor.Filas.size(), 3U);
-    confirmar = true;
-    editor.CambiarIntervalos(2);
-    EXPECT_EQ(editor.Filas.size(), 2U) << "rows go from the end";
-    editor.Aviso = false;
-    editor.CambiarIntervalos(0);
-    EXPECT_EQ(confirmaciones, 2) << "without the warning nothing is asked";
-    EXPECT_EQ(editor.Filas, (std::vector<FilaIntervalo>{{" -", " -", " -", " -"}}));
-    EXPECT_FALSE(editor.RejillaHabilitada);
-    editor.Aviso = true;
-    editor.Cargando = true;
-    editor.CambiarIntervalos(2);
-    editor.CambiarIntervalos(1);
-    EXPECT_EQ(confirmaciones, 2) << "nothing is asked while loading";
-    EXPECT_FALSE(editor.AbrirCelda() && editor.ColumnaActual == 0);
-    editor.ColumnaActual = 0;
-    EXPECT_FALSE(editor.AbrirCelda()) << "the column Id is not edited";
-}
-
 // A case "tab <before> kind <chosen> click on tab <afterwards, 0: none>" on a fresh editor, or
 // "then kind|tab|optional <n>": one more step on one editor, optional 1 ticking the box.
 TEST_F(Editor, TheKindListAndTheTabsShowTheirPanels) {

@@ -28,9 +28,9 @@ Tabla DeTabla(const std::string& nombre) {
 }
 
 // The rows of a grid, each cell quoted, the rows parted by " / ".
-std::string Listado(const TablaEdicion& tabla) {
+template <typename Filas> std::string Listado(const Filas& filas) {
     std::string texto;
-    for (const auto& fila : tabla.Filas) {
+    for (const auto& fila : filas) {
         texto += texto.empty() ? "" : " /";
         for (const std::string& celda : fila) {
             texto += " '" + celda + "'";
@@ -77,39 +77,48 @@ protected:
 
 TEST_F(Tablas, AFreshEditorOffersTwoOptionalIndicatorsOneSelectableAndNoScoringElement) {
     Cargar(pruebas::Continua());
-    EXPECT_EQ(editor.Optativos.Cuenta, 2);
-    EXPECT_EQ(editor.Optativos.Filas, (Filas{{""}, {""}}));
-    EXPECT_EQ(editor.Seleccionables, 1);
-    EXPECT_EQ(editor.MaximoSeleccionables, 1);
-    EXPECT_EQ(sesion().FuncionesEdicion.Tamano(), 2);
-    EXPECT_EQ(editor.Booleanos.Filas, (Filas{{" -", " -", " -", " -"}}));
-    EXPECT_EQ(editor.Numericos.Filas, (Filas{{" -", " -", " -", " -", " -", " -"}}));
-    EXPECT_EQ(editor.Optativos.Cabeceras,
-              (std::vector<std::string>{"Descripción del indicador optativo"}));
-    EXPECT_EQ(editor.Booleanos.Cabeceras,
-              (std::vector<std::string>{"Id", "Enunciado / Descripción", "Puntuación para el NO",
-                                        "Puntuación para el SI"}));
-    EXPECT_EQ(editor.Numericos.Cabeceras,
-              (std::vector<std::string>{"Id", "Enunciado / Descripción", "Mínimo", "Máximo",
-                                        "Puntuación del Mínimo", "Puntuación del Máximo"}));
+    Acta acta;
+    for (const Tabla tabla : {Tabla::Optativos, Tabla::Booleanos, Tabla::Numericos}) {
+        const TablaEdicion& t = editor.TablaDe(tabla);
+        acta.Fila(kTablas[static_cast<int>(tabla)], "headers" + Listado(Filas{t.Cabeceras}) +
+                                                        ", rows" + Listado(t.Filas) + ", count " +
+                                                        std::to_string(t.Cuenta));
+    }
+    acta.Fila("Intervalos",
+              "rows" + Listado(editor.Filas) + ", count " + std::to_string(editor.Intervalos));
+    acta.Fila("selectable", std::to_string(editor.Seleccionables) + ", at most " +
+                                std::to_string(editor.MaximoSeleccionables) + ", " +
+                                std::to_string(sesion().FuncionesEdicion.Tamano()) + " functions");
+    acta.Comparar("editor_funcion/editor_nuevo.txt");
 }
 
-// A case "<grid> <count> confirmed|declined|unasked": the count changed with its up-down
-// control, the reduction's question so answered or switched off by the dialog's box.
+// A case "<grid> <count> confirmed|declined|unasked|loading": the count changed with its
+// up-down control, the reduction's question so answered, switched off by the dialog's box, or
+// not to be asked while the window loads.
 TEST_F(Tablas, CountsGrowRenumberAndShrinkFromTheEndOnlyWhenConfirmed) {
     Cargar(FuncionValor{});
+    editor.Tipo = kTipoEscalon;
     Acta acta;
     for (const Caso& caso : Casos("editor_funcion/cuentas.txt")) {
-        const TablaEdicion& t = editor.TablaDe(DeTabla(caso.campos.at(0)));
+        const int n = std::stoi(caso.campos.at(1));
         confirmar = caso.campos.at(2) == "confirmed";
         editor.Aviso = caso.campos.at(2) != "unasked";
-        sesion().modelo.Modificado = false;
-        editor.CambiarCuenta(DeTabla(caso.campos.at(0)), std::stoi(caso.campos.at(1)));
-        acta.Fila(caso.texto, "rows" + Listado(t) + ", count " + std::to_string(t.Cuenta) +
-                                  ", asked " + std::to_string(confirmaciones) +
-                                  (sesion().modelo.Modificado ? ", modified" : ""));
+        editor.Cargando = caso.campos.at(2) == "loading";
+        std::string rejilla;
+        if (caso.campos.at(0) == "Intervalos") {
+            editor.CambiarIntervalos(n);
+            rejilla = Listado(editor.Filas) + ", count " + std::to_string(editor.Intervalos) +
+                      (editor.RejillaHabilitada ? ", enabled" : ", disabled");
+        } else {
+            const TablaEdicion& t = editor.TablaDe(DeTabla(caso.campos.at(0)));
+            editor.CambiarCuenta(DeTabla(caso.campos.at(0)), n);
+            rejilla = Listado(t.Filas) + ", count " + std::to_string(t.Cuenta);
+        }
+        acta.Fila(caso.texto, "rows" + rejilla + ", asked " + std::to_string(confirmaciones));
     }
     acta.Comparar("editor_funcion/cuentas.txt");
+    editor.ColumnaActual = 0;
+    EXPECT_FALSE(editor.AbrirCelda()) << "the column Id of the steps is not edited";
 }
 
 // The second row's function is kept as long as the count keeps the row.
