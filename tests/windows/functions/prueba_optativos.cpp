@@ -32,7 +32,6 @@ using pruebas::Teclear;
 using pruebas::Texto;
 
 const std::string kTitulo = "VADRO PROGRAMADOR";
-const std::string kSeleccione = "Seleccione primero un indicador en la tabla de indicadores.";
 
 void ClickPestana(frmFuncionValor& ventana, int indice) {
     QTabBar* pestanas = ventana.tspSeleccion;
@@ -66,9 +65,6 @@ TEST_F(Optativos, ThreeIndicatorsTwoSelectableEachWithItsFunction) {
     Abrir(FuncionValor{});
     QTest::mouseClick(ventana->chkOptativos, Qt::LeftButton);
     QAbstractItemModelTester comprobador(Panel().grdOptativos->model());
-
-    mensajes.Esperar(kTitulo, kSeleccione);
-    DobleClickGrafica(); // no row chosen yet: no second window
 
     Flecha(Panel().updOptativos, true);
     Flecha(Panel().updSeleccionables, true);
