@@ -231,6 +231,7 @@ TEST_F(Tablas, OnlyTheCurrentCellOfTheOptionalGridIsColoured) {
     EXPECT_EQ(editor.Optativos.Fondo(1, 0), kFondoCelda) << "the \" -\" row is never coloured";
 }
 
+// The caption of the second window on a row's function is checked by the window's test.
 TEST_F(Tablas, TheDrawingShowsTheChosenRowsFunctionAndTheDoubleClickNeedsARow) {
     Cargar(FuncionValor{});
     FuncionOptativo continua;
@@ -246,10 +247,6 @@ TEST_F(Tablas, TheDrawingShowsTheChosenRowsFunctionAndTheDoubleClickNeedsARow) {
         EXPECT_FALSE(editor.GraficaOptativo.Visibles().empty()) << fila;
         EXPECT_EQ(editor.FilaOptativoAEditar(), fila);
     }
-    editor.Optativos.Celda(1, 0) = "Caudal";
-    EXPECT_EQ(editor.TituloOptativo("Definición de la función de valor - [Coste]", 1),
-              "Definición de la función de valor - [Coste] - Función del indicador optativo "
-              "Caudal");
     editor.CambiarCuenta(Tabla::Optativos, 0);
     EXPECT_TRUE(editor.GraficaOptativo.Visibles().empty()) << "the chosen row went";
     mensajes.Esperar(kTitulo, kSinOptativos);

@@ -61,18 +61,15 @@ TEST_F(Avisos, TheConfirmationAnswersWithItsButtons) {
     pruebas::CompararVolcado(confirmacion, "frmConfirmacion");
     Hijo<QCheckBox>(confirmacion, "chkAviso")->click();
     EXPECT_FALSE(mostrar);
-    {
+    for (const auto& [boton, resultado] :
+         {std::pair{"cmdCancelar", QDialog::Rejected}, {"cmdAceptar", QDialog::Accepted}}) {
+        frmConfirmacion otra(mostrar);
         pruebas::GuionModales modales;
         modales.Esperar(QStringLiteral("frmConfirmacion"),
-                        [](QDialog& d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
-        EXPECT_EQ(MostrarModal(confirmacion), QDialog::Rejected);
+                        [boton = boton](QDialog& d) { Hijo<QPushButton>(d, boton)->click(); });
+        EXPECT_EQ(MostrarModal(otra), resultado) << boton;
+        EXPECT_FALSE(otra.Cargado) << "closing unloads it";
     }
-    frmConfirmacion otra(mostrar);
-    pruebas::GuionModales modales;
-    modales.Esperar(QStringLiteral("frmConfirmacion"),
-                    [](QDialog& d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
-    EXPECT_EQ(MostrarModal(otra), QDialog::Accepted);
-    EXPECT_FALSE(otra.Cargado) << "closing unloads it";
 }
 
 TEST_F(Avisos, TheAboutBoxShowsTheVersion) {

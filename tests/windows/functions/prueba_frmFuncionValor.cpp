@@ -51,7 +51,6 @@ TEST_F(VentanaFuncion, ANewFunctionShowsTheNoticeAtOnceAndItsOptionLastsTheSessi
 
 TEST_F(VentanaFuncion, CBoundsWithEmptyAndNarrowLimitsLettersInKAndTheRecordWritten) {
     Abrir(FuncionValor{});
-    EXPECT_EQ(Etiqueta("lblLimitesC").toStdString(), "Pto. inflexión en abcisa (0 < C < 100)");
     Teclear(Entrada("txtC"), QStringLiteral("50"));
     EXPECT_EQ(ventana->cbbTipoFuncionPrimaria->currentText().toStdString(), "Continua");
     Flecha(ventana->upd[0], true);

@@ -151,18 +151,16 @@ TEST_F(Optativos, TwoBooleansAndANumericWithItsMinimumAboveItsMaximumAreStored) 
     Flecha(Tablas().updNumericos, true);
     EXPECT_EQ(Tablas().lblBooleanos->text(), QStringLiteral("2"));
     EXPECT_EQ(Texto(Tablas().grdBooleanos, 2, 0), QStringLiteral("2"));
-    const auto booleano = [this](int fila, int columna, const char* texto) {
-        Celda(Tablas().grdBooleanos, Tablas().txtValorB, fila, columna, QString::fromUtf8(texto));
-    };
+    const char* const booleanos[2][3] = {{"¿Tiene licencia?", "0", "2.50"}, {"Seguro", "1", "4"}};
+    for (int fila = 1; fila <= 2; ++fila) {
+        for (int columna = 1; columna <= 3; ++columna) {
+            Celda(Tablas().grdBooleanos, Tablas().txtValorB, fila, columna,
+                  QString::fromUtf8(booleanos[fila - 1][columna - 1]));
+        }
+    }
     const auto numerico = [this](int columna, const char* texto, Qt::Key fin = Qt::Key_Return) {
         Celda(Tablas().grdNumericos, Tablas().txtValorN, 1, columna, QString::fromUtf8(texto), fin);
     };
-    booleano(1, 1, "¿Tiene licencia?");
-    booleano(1, 2, "0");
-    booleano(1, 3, "2.50");
-    booleano(2, 1, "Seguro");
-    booleano(2, 2, "1");
-    booleano(2, 3, "4");
     EXPECT_EQ(Texto(Tablas().grdBooleanos, 1, 3), QStringLiteral("2.5")) << "plain number form";
     // The cleared cell: Enter opens it with its text selected, Backspace empties it.
     QTableView* grd = Tablas().grdBooleanos;
