@@ -363,12 +363,14 @@ TEST_F(Editor, ErrorMinMaxWantsAZeroAndAOneSomewhere) {
     EXPECT_FALSE(editor.ErrorMinMax()) << "only for steps";
 }
 
+// The cases of one interval's notation first: "<start> <end>".
 TEST_F(Editor, TheReferenceLabelsListTheStepsWorthZeroAndOne) {
-    const std::pair<const char*, const char*> extremos[] = {
-        {"=10", "<20"}, {">0", "=5"}, {"", "=5"}, {"<3", ""}, {"", ""}};
     Acta acta;
-    for (const auto& [inicio, fin] : extremos) {
-        acta.Fila(std::string("'") + inicio + "' '" + fin + "'", FormatoIntervalo(inicio, fin));
+    for (const Caso& caso : Casos("editor_funcion/etiquetas_ref.txt")) {
+        if (caso.campos.size() != 2) {
+            break;
+        }
+        acta.Fila(caso.texto, FormatoIntervalo(caso.campos[0], caso.campos[1]));
     }
     Escalones({{"1", "=0", "<10", "0"},
                {"2", "=10", "<20", "0.5"},

@@ -131,11 +131,9 @@ TEST(Graficar, StepsDrawCompleteRowsAndRisersOnlyBetweenCompleteRows) {
 
 TEST(GraficarOptativo, ContinuousWithCAsStoredOrStepsInTheReportFrame) {
     FuncionOptativo continua;
-    continua.Tipo = FuncionContinua;
+    static_cast<FuncionComun&>(continua) = pruebas::Continua(); // RMax 100, K 0.5
     continua.RMin = 20.0;
-    continua.RMax = 100.0;
     continua.C = 60.0;
-    continua.K = 0.5;
     continua.P = 3.0;
     const Grafica g = GraficarOptativo(continua);
     EXPECT_EQ(ListadoGrafica(g),
