@@ -1,9 +1,4 @@
-#include "core/functions/editor_funcion.h"
-#include "soporte/acta.h"
-#include "soporte/modelo_sano.h"
-#include "soporte/prueba_sesion.h"
-
-#include <gtest/gtest.h>
+#include "editor_sin_ventana.h"
 
 #include <algorithm>
 #include <iomanip>
@@ -35,15 +30,10 @@ std::string Formato(double valor) {
     return texto.str();
 }
 
-class Editor : public pruebas::PruebaSesion {
+class Editor : public pruebas::EditorSinVentana {
 protected:
     Editor() {
-        sesion().MostrarAvisoFuncionValor = false;
         editor.MostrarAviso = [this] { ++avisos; };
-        editor.ConfirmarReduccion = [this] {
-            ++confirmaciones;
-            return confirmar;
-        };
     }
     // The inputs as a loaded window leaves them, without running their handlers.
     void Limites(const std::string& min, const std::string& max, const std::string& minRef,
@@ -73,18 +63,8 @@ protected:
         editor.FilaActual = std::stoi(caso.campos.at(k));
         editor.ColumnaActual = std::stoi(caso.campos.at(k + 1));
     }
-    // Types a text into a cell through its floating input and leaves the cell.
-    void EscribirCelda(int fila, int columna, const std::string& texto) {
-        editor.FilaActual = fila;
-        editor.ColumnaActual = columna;
-        ASSERT_TRUE(editor.AbrirCelda());
-        editor.SalirCelda(texto);
-    }
 
-    EditorFuncion editor;
     int avisos = 0;
-    int confirmaciones = 0;
-    bool confirmar = true;
 };
 
 TEST_F(Editor, TheBoundsAndStepOfCFollowTheReferenceLimits) {
@@ -308,7 +288,7 @@ TEST_F(Editor, LeavingACellCommitsAGoodTextAndKeepsTheOldOneOtherwise) {
     for (const Caso& caso : Casos("editor_funcion/salir_celda.txt")) {
         const int fila = std::stoi(caso.campos.at(1));
         const int columna = std::stoi(caso.campos.at(2));
-        EscribirCelda(fila, columna, caso.campos.at(3));
+        Escribir(fila, columna, caso.campos.at(3));
         acta.Fila(caso.texto, "'" + editor.Filas[static_cast<std::size_t>(fila - 1)][columna] +
                                   "'" + (editor.EntradaAbierta ? ", input open" : ""));
     }
@@ -513,10 +493,10 @@ TEST_F(Editor, TheSecondInstanceWritesAnOptionalIndicatorsFunction) {
 
 TEST_F(Editor, AStepFunctionTakesItsReferenceLimitsFromItsOuterSteps) {
     Escalones({{"1", "=0", "<10", "1"}, {"2", "=10", "=30", ""}});
-    EscribirCelda(2, 3, "0");
+    Escribir(2, 3, "0");
     EXPECT_EQ(editor.Texto(Campo::MinRef), "30") << "decreasing: the zero lies at the end";
     EXPECT_EQ(editor.Texto(Campo::MaxRef), "0");
-    EscribirCelda(1, 3, "0");
+    Escribir(1, 3, "0");
     EXPECT_EQ(editor.Texto(Campo::MinRef), "0");
     EXPECT_EQ(editor.Texto(Campo::MaxRef), "30");
     EXPECT_EQ(editor.lblMaxRef, "");

@@ -1,12 +1,7 @@
 // The editor's table grids: optional indicators and scoring elements.
 #include "core/files/seccion_funcion.h"
-#include "core/functions/editor_funcion.h"
-#include "soporte/acta.h"
+#include "editor_sin_ventana.h"
 #include "soporte/guion_dialogos.h"
-#include "soporte/modelo_sano.h"
-#include "soporte/prueba_sesion.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <map>
@@ -40,25 +35,12 @@ template <typename Filas> std::string Listado(const Filas& filas) {
     return texto;
 }
 
-class Tablas : public pruebas::PruebaSesion {
+class Tablas : public pruebas::EditorSinVentana {
 protected:
-    Tablas() {
-        sesion().MostrarAvisoFuncionValor = false;
-        editor.ConfirmarReduccion = [this] {
-            ++confirmaciones;
-            return confirmar;
-        };
-    }
     // Loads the editor on a record, as the window opens.
     void Cargar(const FuncionValor& funcion) {
         registro = funcion;
         editor.Cargar(registro);
-    }
-    // Types a text into a cell through its floating input and leaves the cell.
-    void Escribir(Tabla tabla, int fila, int columna, const std::string& texto) {
-        editor.EntrarCelda(tabla, fila, columna);
-        ASSERT_TRUE(editor.AbrirCelda(tabla));
-        editor.SalirCelda(tabla, texto);
     }
     // Counts a grid up (or down) to `n` with its up-down control.
     void Contar(Tabla tabla, int n) {
@@ -70,10 +52,7 @@ protected:
         }
     }
 
-    EditorFuncion editor;
     FuncionValor registro;
-    int confirmaciones = 0;
-    bool confirmar = true;
 };
 
 TEST_F(Tablas, AFreshEditorOffersTwoOptionalIndicatorsOneSelectableAndNoScoringElement) {
