@@ -326,7 +326,8 @@ TEST_F(Tablas, TheSecondInstanceStartsAFunctionWithoutKindAsAContinuousOne) {
 }
 
 // A case "template <kind>": a function of that kind exported as a template, loaded into the
-// second instance on a function of steps, which is then accepted.
+// second instance on a function of steps (or on a continuous one, "on continuous"), which is
+// then accepted.
 TEST_F(Tablas, ATemplateLoadedIntoTheSecondInstanceBringsOnlyAContinuousOrStepKind) {
     const std::map<std::string, FuncionValor> plantillas = {
         {"steps", pruebas::DeEscalones<FuncionValor>()},
@@ -339,6 +340,9 @@ TEST_F(Tablas, ATemplateLoadedIntoTheSecondInstanceBringsOnlyAContinuousOrStepKi
         plantilla.Clave.clear(); // as the editor exports a template
         GuardarFuncionValor(plantilla, Ruta("plantilla.fva"), false, "");
         FuncionOptativo opcion = pruebas::DeEscalones<FuncionOptativo>();
+        if (caso.campos.size() > 2) {
+            static_cast<FuncionComun&>(opcion) = pruebas::Continua();
+        }
         EditorFuncion e;
         e.Cargar(opcion);
         pruebas::GuionDialogos dialogos;
