@@ -1,9 +1,4 @@
-#include "core/functions/editor_funcion.h"
-#include "soporte/acta.h"
-#include "soporte/modelo_sano.h"
-#include "soporte/prueba_sesion.h"
-
-#include <gtest/gtest.h>
+#include "editor_sin_ventana.h"
 
 #include <algorithm>
 #include <iomanip>
@@ -13,51 +8,11 @@ namespace vadro {
 namespace {
 
 const std::string kTituloError = "VADRO PROGRAMADOR: error";
-const std::string kTituloFuncion = "VADRO: función de valor";
-const std::string kTituloSuperior = "VADRO: error en límite superior";
-const std::string kTituloInferior = "VADRO: error en límite inferior";
-const std::string kCorrijalo = "Corríjalo o deje vacío su valor.";
-
-class Editor : public pruebas::PruebaSesion {
-protected:
-    Editor() {
-        editor.MostrarAviso = [this] { ++avisos; };
-        editor.ConfirmarReduccion = [this] {
-            ++confirmaciones;
-            return confirmar;
-        };
-    }
-    // The inputs as a loaded window leaves them, without running their handlers.
-    void Limites(const std::string& min, const std::string& max, const std::string& minRef,
-                 const std::string& maxRef) {
-        editor.Texto(Campo::Min) = min;
-        editor.Texto(Campo::Max) = max;
-        editor.Texto(Campo::MinRef) = minRef;
-        editor.Texto(Campo::MaxRef) = maxRef;
-    }
-    // A step grid of these rows, the kind "Escalón".
-    void Escalones(std::vector<FilaIntervalo> filas) {
-        editor.Tipo = kTipoEscalon;
-        editor.Filas = std::move(filas);
-        editor.Intervalos = static_cast<int>(editor.Filas.size());
-        editor.RejillaHabilitada = true;
-    }
-    // Types a text into a cell through its floating input and leaves the cell.
-    void EscribirCelda(int fila, int columna, const std::string& texto) {
-        editor.FilaActual = fila;
-        editor.ColumnaActual = columna;
-        ASSERT_TRUE(editor.AbrirCelda());
-        editor.SalirCelda(texto);
-    }
-
-    EditorFuncion editor;
-    int avisos = 0;
-    int confirmaciones = 0;
-    bool confirmar = true;
-};
 
 const char* const kCampos[] = {"Min", "Max", "MinRef", "MaxRef", "Unidades", "C", "K", "P"};
 using pruebas::Acta;
+using pruebas::Caso;
+using pruebas::Casos;
 
 std::string Nombre(Campo campo) {
     return kCampos[static_cast<int>(campo)];
@@ -75,40 +30,72 @@ std::string Formato(double valor) {
     return texto.str();
 }
 
-TEST_F(Editor, TheBoundsAndStepOfCFollowTheReferenceLimits) {
-    const std::array<const char*, 3> casos[] = {
-        {"", "", "50"},     {"", "7", "150"},    {"0", "0.5", "0.25"},
-        {"0", "0.5", "3"},  {"20", "100", "10"}, {"100", "0", "150"},
-        {"100", "0", "-5"}, {"5", "5", "9"},     {"20", "100", ""},
-    };
-    sesion().MostrarAvisoFuncionValor = false;
-    Acta acta;
-    for (const auto& [minRef, maxRef, C] : casos) {
-        Limites("", "", minRef, maxRef);
-        editor.Texto(Campo::C) = C;
-        editor.ActualizarLimites();
-        acta.Fila(std::string("references '") + minRef + "' '" + maxRef + "', C '" + C + "'",
-                  Formato(editor.CInferior) + " < C < " + Formato(editor.CSuperior) + " step " +
-                      Formato(editor.PasoC) + ", '" + editor.lblLimitesC + "', C '" +
-                      editor.Texto(Campo::C) + "'");
+class Editor : public pruebas::EditorSinVentana {
+protected:
+    Editor() {
+        editor.MostrarAviso = [this] { ++avisos; };
     }
-    acta.Fila("K and P", editor.lblLimitesK + " | " + editor.lblLimitesP);
+    // The inputs as a loaded window leaves them, without running their handlers.
+    void Limites(const std::string& min, const std::string& max, const std::string& minRef,
+                 const std::string& maxRef) {
+        editor.Texto(Campo::Min) = min;
+        editor.Texto(Campo::Max) = max;
+        editor.Texto(Campo::MinRef) = minRef;
+        editor.Texto(Campo::MaxRef) = maxRef;
+    }
+    // A case "leave <input> limits <min> <max> references <min> <max>": the four limits set,
+    // then the input left.
+    Campo Dejar(const Caso& caso) {
+        const std::vector<std::string>& c = caso.campos;
+        Limites(c.at(3), c.at(4), c.at(6), c.at(7));
+        editor.Salir(DeNombre(c.at(1)));
+        return DeNombre(c.at(1));
+    }
+    // A step grid of these rows, the kind "Escalón".
+    void Escalones(std::vector<FilaIntervalo> filas) {
+        editor.Tipo = kTipoEscalon;
+        editor.Filas = std::move(filas);
+        editor.Intervalos = static_cast<int>(editor.Filas.size());
+        editor.RejillaHabilitada = true;
+    }
+    // The current cell at the row and column of a case's fields `k` and `k + 1`.
+    void EnCelda(const Caso& caso, std::size_t k) {
+        editor.FilaActual = std::stoi(caso.campos.at(k));
+        editor.ColumnaActual = std::stoi(caso.campos.at(k + 1));
+    }
+
+    int avisos = 0;
+};
+
+TEST_F(Editor, TheBoundsAndStepOfCFollowTheReferenceLimits) {
+    Acta acta;
+    for (const Caso& caso : Casos("editor_funcion/limites_c.txt")) {
+        if (caso.campos.at(0) != "references") { // the last row: the captions of K and P
+            acta.Fila(caso.texto, editor.lblLimitesK + " | " + editor.lblLimitesP);
+            continue;
+        }
+        Limites("", "", caso.campos.at(1), caso.campos.at(2));
+        editor.Texto(Campo::C) = caso.campos.at(4);
+        editor.ActualizarLimites();
+        acta.Fila(caso.texto, Formato(editor.CInferior) + " < C < " + Formato(editor.CSuperior) +
+                                  " step " + Formato(editor.PasoC) + ", '" + editor.lblLimitesC +
+                                  "', C '" + editor.Texto(Campo::C) + "'");
+    }
     acta.Comparar("editor_funcion/limites_c.txt");
 }
 
 TEST_F(Editor, TheShapeParametersTakeOnlyNumbersWithinTheirBounds) {
-    sesion().MostrarAvisoFuncionValor = false;
     Limites("", "", "0", "10");
     editor.ActualizarLimites();
     Acta acta;
-    for (const pruebas::Caso& caso : pruebas::Casos("editor_funcion/parametros.txt")) {
+    for (const Caso& caso : Casos("editor_funcion/parametros.txt")) {
         const Campo campo = DeNombre(caso.campos.at(0));
         sesion().modelo.Modificado = false;
         const int dibujos = editor.Dibujos;
         editor.Cambio(campo, caso.campos.at(1));
         acta.Fila(caso.texto, "'" + editor.Texto(campo) + "'" +
-                      (sesion().modelo.Modificado ? ", modified" : "") + ", " +
-                      std::to_string(editor.Dibujos - dibujos) + " drawn");
+                                  (sesion().modelo.Modificado ? ", modified" : "") + ", " +
+                                  std::to_string(editor.Dibujos - dibujos) + " drawn");
     }
     acta.Comparar("editor_funcion/parametros.txt");
     EXPECT_EQ(editor.Tipo, kTipoContinua) << "the first change chose the kind";
@@ -119,59 +106,46 @@ TEST_F(Editor, TheShapeParametersTakeOnlyNumbersWithinTheirBounds) {
     EXPECT_EQ(editor.UltimoK, 0);
 }
 
+// A case "<parameter> <text> up", "... down" (the up-down control) or "... key <code>".
 TEST_F(Editor, UpDownStepsStopAtTheBoundsExceptAboveP) {
-    sesion().MostrarAvisoFuncionValor = false;
     Limites("", "", "0", "0.5");
     editor.ActualizarLimites();
-    struct Caso {
-        Campo campo;
-        const char* antes;
-        bool sube;
-        const char* despues;
-    };
-    const Caso casos[] = {
-        {Campo::C, "0.25", true, "0.26"},  {Campo::C, "0.5", true, "0.50"},
-        {Campo::C, "0.00", false, "0.00"}, {Campo::K, "0.995", true, "1.00"},
-        {Campo::K, "0.3", false, "0.29"},  {Campo::P, "0.00", false, "0.00"},
-        {Campo::P, "999", true, "999.01"},
-    };
-    for (const Caso& caso : casos) {
-        editor.Texto(caso.campo) = caso.antes;
-        caso.sube ? editor.Subir(caso.campo) : editor.Bajar(caso.campo);
-        EXPECT_EQ(editor.Texto(caso.campo), caso.despues) << caso.antes;
+    Acta acta;
+    for (const Caso& caso : Casos("editor_funcion/subir_bajar.txt")) {
+        const Campo campo = DeNombre(caso.campos.at(0));
+        editor.Texto(campo) = caso.campos.at(1);
+        std::string tecla;
+        if (caso.campos.at(2) == "key") {
+            tecla = editor.Tecla(campo, std::stoi(caso.campos.at(3))) ? ", used" : ", not used";
+        } else if (caso.campos.at(2) == "up") {
+            editor.Subir(campo);
+        } else {
+            editor.Bajar(campo);
+        }
+        acta.Fila(caso.texto, "'" + editor.Texto(campo) + "'" + tecla);
     }
-    editor.Texto(Campo::K) = "0.5";
-    EXPECT_TRUE(editor.Tecla(Campo::K, 38));
-    EXPECT_EQ(editor.Texto(Campo::K), "0.51") << "the up arrow key";
-    EXPECT_TRUE(editor.Tecla(Campo::K, 40));
-    EXPECT_EQ(editor.Texto(Campo::K), "0.50");
-    EXPECT_FALSE(editor.Tecla(Campo::K, 13)) << "Enter is not the parameters' key";
+    acta.Comparar("editor_funcion/subir_bajar.txt");
 }
 
 TEST_F(Editor, AShapeButtonActsOnlyOnAUserClickAndDrawsOnce) {
-    sesion().MostrarAvisoFuncionValor = false;
-    const std::tuple<int, const char*, const char*> casos[] = {
-        {0, "0", "100"}, {1, "0", "100"}, {2, "0", "100"},
-        {3, "20", "60"}, {2, "100", "0"}, {1, "", ""},
-    };
     Acta acta;
-    for (const auto& [indice, minRef, maxRef] : casos) {
+    for (const Caso& caso : Casos("editor_funcion/formas.txt")) {
+        const int indice = std::stoi(caso.campos.at(1));
         EditorFuncion e;
-        e.Texto(Campo::MinRef) = minRef;
-        e.Texto(Campo::MaxRef) = maxRef;
+        e.Texto(Campo::MinRef) = caso.campos.at(3);
+        e.Texto(Campo::MaxRef) = caso.campos.at(4);
         e.ActualizarLimites();
         const int dibujos = e.Dibujos;
         e.ClickForma(indice);
         EXPECT_EQ(e.Dibujos, dibujos) << "a click the user did not make";
         e.PulsarForma(indice);
         e.ClickForma(indice);
-        EXPECT_EQ(e.Dibujos, dibujos + 1) << indice;
+        EXPECT_EQ(e.Dibujos, dibujos + 1) << caso.texto;
         EXPECT_EQ(e.Tipo, kTipoContinua);
         EXPECT_EQ(e.EtiquetaParametro, (std::array<std::string, 3>{})) << "tags cleared";
-        acta.Fila("shape " + std::to_string(indice) + ", references '" + minRef + "' '" + maxRef +
-                      "'",
-                  "P " + e.Texto(Campo::P) + " C " + e.Texto(Campo::C) + " K " + e.Texto(Campo::K) +
-                      ", tag '" + e.EtiquetaForma[static_cast<std::size_t>(indice)] + "'");
+        acta.Fila(caso.texto, "P " + e.Texto(Campo::P) + " C " + e.Texto(Campo::C) + " K " +
+                                  e.Texto(Campo::K) + ", tag '" +
+                                  e.EtiquetaForma[static_cast<std::size_t>(indice)] + "'");
     }
     acta.Comparar("editor_funcion/formas.txt");
 }
@@ -179,36 +153,13 @@ TEST_F(Editor, AShapeButtonActsOnlyOnAUserClickAndDrawsOnce) {
 // Decreasing references ask about the minimum with the word of the maximum; a lower limit
 // with a leading symbol is read leniently there, as 0.
 TEST_F(Editor, TheReferenceLimitsAskAboutTheValidityLimitsWithTheirOwnWords) {
-    sesion().MostrarAvisoFuncionValor = false;
-    struct Caso {
-        Campo campo;
-        const char *min, *max, *minRef, *maxRef;
-        Respuesta respuesta;
-    };
-    const Caso casos[] = {
-        {Campo::MaxRef, "", "=90", "0", "120", Respuesta::Si},
-        {Campo::MaxRef, "", "=90", "0", "120", Respuesta::No},
-        {Campo::MaxRef, "", "=90", "0", "80", Respuesta::Si},
-        {Campo::MaxRef, "", "", "0", "80.50", Respuesta::Si},
-        {Campo::MaxRef, "", "", "", "07", Respuesta::Si},
-        {Campo::MaxRef, "10", "", "100", "5", Respuesta::Si},
-        {Campo::MaxRef, "10", "", "100", "5", Respuesta::No},
-        {Campo::MaxRef, "=10", "", "100", "5", Respuesta::Si},
-        {Campo::MinRef, "<10", "", "5", "100", Respuesta::No},
-        {Campo::MinRef, "<10", "", "15", "100", Respuesta::Si},
-        {Campo::MinRef, "", ">50", "60", "0", Respuesta::Si},
-        {Campo::MinRef, "", ">50", "40", "0", Respuesta::Si},
-    };
     Acta acta;
-    for (const Caso& caso : casos) {
-        Limites(caso.min, caso.max, caso.minRef, caso.maxRef);
-        acta.respuestas = {caso.respuesta};
+    for (const Caso& caso : Casos("editor_funcion/limites_referencia.txt")) {
+        acta.respuestas = {caso.campos.back() == "No" ? Respuesta::No : Respuesta::Si};
         sesion().modelo.Modificado = false;
-        editor.Salir(caso.campo);
-        EXPECT_TRUE(sesion().modelo.Modificado);
-        acta.Fila("leave " + Nombre(caso.campo) + ", limits '" + caso.min + "' '" + caso.max +
-                      "', references '" + caso.minRef + "' '" + caso.maxRef + "'",
-                  "'" + editor.Texto(caso.campo) + "'");
+        const Campo campo = Dejar(caso);
+        EXPECT_TRUE(sesion().modelo.Modificado) << caso.texto;
+        acta.Fila(caso.texto, "'" + editor.Texto(campo) + "'");
     }
     acta.Comparar("editor_funcion/limites_referencia.txt");
     Limites("", "", "", "");
@@ -218,7 +169,6 @@ TEST_F(Editor, TheReferenceLimitsAskAboutTheValidityLimitsWithTheirOwnWords) {
 }
 
 TEST_F(Editor, AReferenceLimitThatIsNoNumberGoesBackToTheLastGoodOne) {
-    sesion().MostrarAvisoFuncionValor = false;
     editor.Texto(Campo::MinRef) = "0";
     editor.Cambio(Campo::MaxRef, "80");
     EXPECT_EQ(editor.UltimoRefMax, "80");
@@ -233,25 +183,11 @@ TEST_F(Editor, AReferenceLimitThatIsNoNumberGoesBackToTheLastGoodOne) {
 
 // Decreasing: the upper limit read leniently is 0, so its warning always comes.
 TEST_F(Editor, LeavingAValidityLimitWarnsAboutTheReferenceLimitsItCuts) {
-    sesion().MostrarAvisoFuncionValor = false;
-    struct Caso {
-        Campo campo;
-        const char *min, *max, *minRef, *maxRef;
-    };
-    const Caso casos[] = {
-        {Campo::Max, "", "=90", "0", "100"},  {Campo::Max, "", "=100", "0", "100"},
-        {Campo::Max, "", ">500", "100", "0"}, {Campo::Max, "", "=90", "", "100"},
-        {Campo::Min, "<10", "", "0", "100"},  {Campo::Min, "<10", "", "0", ""},
-        {Campo::Min, "<0", "", "0", "100"},   {Campo::Min, "=10", "", "100", "0"},
-    };
     Acta acta;
-    for (const Caso& caso : casos) {
-        Limites(caso.min, caso.max, caso.minRef, caso.maxRef);
-        editor.Salir(caso.campo);
-        EXPECT_FALSE(editor.foco) << caso.min << caso.max;
-        acta.Fila("leave " + Nombre(caso.campo) + ", limits '" + caso.min + "' '" + caso.max +
-                      "', references '" + caso.minRef + "' '" + caso.maxRef + "'",
-                  "");
+    for (const Caso& caso : Casos("editor_funcion/limites_validez.txt")) {
+        Dejar(caso);
+        EXPECT_FALSE(editor.foco) << caso.texto;
+        acta.Fila(caso.texto, "");
     }
     acta.Comparar("editor_funcion/limites_validez.txt");
 }
@@ -259,57 +195,38 @@ TEST_F(Editor, LeavingAValidityLimitWarnsAboutTheReferenceLimitsItCuts) {
 // A limit is refused, and emptied, for its symbol or its number; under a step function it must
 // also meet the outer step (`celda`, the last end or the first start) with one closed side.
 TEST_F(Editor, ErrorLimitesRefusesByEmptyingTheLimit) {
-    struct Caso {
-        bool maximo;
-        const char* limite;
-        const char* celda; // nullptr: a continuous function
-    };
-    const Caso casos[] = {
-        {true, "<5", nullptr},     {true, "5", nullptr},   {true, ">5a", nullptr},
-        {false, ">5", nullptr},    {false, "5", nullptr},  {false, "=", nullptr},
-        {true, ">5", nullptr},     {true, "=5", nullptr},  {false, "<5", nullptr},
-        {false, "=-5.5", nullptr}, {true, ">100", "<100"}, {true, "=100", "<100"},
-        {true, ">100", "=100"},    {true, "=100", "=100"}, {true, ">90", "=100"},
-        {true, ">100", ""},        {false, "<0", "=0"},    {false, "=0", ">0"},
-        {false, "=0", "=0"},       {false, "<0", ">0"},    {false, "<1", "=0"},
-        {false, "<0", ""},
-    };
     Acta acta;
-    for (const Caso& caso : casos) {
+    for (const Caso& caso : Casos("editor_funcion/error_limites.txt")) {
         Escalones({{"1", "=0", "<50", "0"}, {"2", "=50", "=100", "1"}});
-        if (caso.celda == nullptr) {
+        const Campo campo = DeNombre(caso.campos.at(0));
+        const bool maximo = campo == Campo::Max;
+        if (caso.campos.size() < 5) {
             editor.Tipo = kTipoContinua;
         } else {
-            editor.Filas[caso.maximo ? 1 : 0][caso.maximo ? 2 : 1] = caso.celda;
+            editor.Filas[maximo ? 1 : 0][maximo ? 2 : 1] = caso.campos.at(4);
         }
-        const Campo campo = caso.maximo ? Campo::Max : Campo::Min;
-        editor.Texto(campo) = caso.limite;
-        const bool error = editor.ErrorLimites(caso.maximo);
-        acta.Fila(Nombre(campo) + " '" + caso.limite + "'" +
-                      (caso.celda ? std::string(", outer step '") + caso.celda + "'" : ""),
+        editor.Texto(campo) = caso.campos.at(1);
+        const bool error = editor.ErrorLimites(maximo);
+        acta.Fila(caso.texto,
                   (error ? "refused, left '" : "passes, left '") + editor.Texto(campo) + "'");
     }
     acta.Comparar("editor_funcion/error_limites.txt");
 }
 
 TEST_F(Editor, LeavingAnEmptyValidityLimitChecksTheOtherAndSendsTheFocusThere) {
-    sesion().MostrarAvisoFuncionValor = false;
     Acta acta;
-    for (const auto& [min, max] : {std::pair{">3", ""}, {"", "100"}}) {
+    for (const Caso& caso : Casos("editor_funcion/limite_vacio.txt")) {
         editor.foco.reset();
-        Limites(min, max, "", "");
-        editor.Salir(Campo::Max);
-        acta.Fila(std::string("leave Max, limits '") + min + "' '" + max + "'",
-                  "Min '" + editor.Texto(Campo::Min) + "', focus on " +
-                      (editor.foco ? Nombre(editor.foco->campo) : "nothing") +
-                      (editor.chkMaxUsuario ? ", Max left to the user" : ""));
+        Dejar(caso);
+        acta.Fila(caso.texto, "Min '" + editor.Texto(Campo::Min) + "', focus on " +
+                                  (editor.foco ? Nombre(editor.foco->campo) : "nothing") +
+                                  (editor.chkMaxUsuario ? ", Max left to the user" : ""));
     }
     acta.Comparar("editor_funcion/limite_vacio.txt");
     EXPECT_TRUE(editor.Tecla(Campo::Min, 13)) << "Enter leaves the limit";
 }
 
 TEST_F(Editor, TheAdjustBoxesDisableOrRestoreTheReferenceLimits) {
-    sesion().MostrarAvisoFuncionValor = false;
     mensajes.Esperar("VADRO PROGRAMADOR",
                      "Se tomará como punto de máxima satisfacción el más permisivo");
     editor.ClickAjustar(true, false);
@@ -335,6 +252,7 @@ TEST_F(Editor, TheAdjustBoxesDisableOrRestoreTheReferenceLimits) {
 }
 
 TEST_F(Editor, NothingToDrawShowsTheNoticeUnlessSwitchedOffOrActivating) {
+    sesion().MostrarAvisoFuncionValor = true;
     editor.Graficar();
     EXPECT_EQ(avisos, 1);
     editor.Activando = true;
@@ -349,28 +267,12 @@ TEST_F(Editor, NothingToDrawShowsTheNoticeUnlessSwitchedOffOrActivating) {
 
 // Rows [0,10) 1, [10,20] 0.5, (20,30] 1 between the limits "<0" and ">30".
 TEST_F(Editor, ValidarIntervaloChecksACellAgainstItsNeighboursInOrder) {
-    struct Caso {
-        int fila, columna;
-        const char* texto;
-    };
-    const Caso casos[] = {
-        {2, 1, ""},      {2, 1, "10"},    {2, 1, "=1x"},  {2, 1, "=10"}, {2, 1, ">10"},
-        {2, 1, "=11"},   {2, 1, "=10.0"}, // the numbers are compared as texts
-        {2, 2, "=20"},   {2, 2, "<20"},   {2, 2, "=21"},  {1, 1, "<0"},  {1, 1, "=0"},
-        {1, 1, "=5000"}, // nothing else is checked on the first start
-        {3, 2, "<30"},   {3, 2, ">30"},   {3, 2, "=30"},  {1, 3, "0.5"}, {3, 3, "0.5"},
-        {2, 3, "1.5"},   {2, 3, "x"},     {2, 3, "0.25"}, {1, 3, "0"},
-    };
     Acta acta;
-    for (const Caso& caso : casos) {
+    for (const Caso& caso : Casos("editor_funcion/validar_intervalo.txt")) {
         Escalones({{"1", "=0", "<10", "1"}, {"2", "=10", "=20", "0.5"}, {"3", ">20", "=30", "1"}});
         Limites("<0", ">30", "", "");
-        editor.FilaActual = caso.fila;
-        editor.ColumnaActual = caso.columna;
-        const bool error = editor.ValidarIntervalo(caso.texto);
-        acta.Fila("cell " + std::to_string(caso.fila) + "," + std::to_string(caso.columna) + " '" +
-                      caso.texto + "'",
-                  error ? "refused" : "passes");
+        EnCelda(caso, 1);
+        acta.Fila(caso.texto, editor.ValidarIntervalo(caso.campos.at(3)) ? "refused" : "passes");
     }
     acta.Comparar("editor_funcion/validar_intervalo.txt");
     // A start is checked only when its own end is filled.
@@ -381,19 +283,14 @@ TEST_F(Editor, ValidarIntervaloChecksACellAgainstItsNeighboursInOrder) {
 }
 
 TEST_F(Editor, LeavingACellCommitsAGoodTextAndKeepsTheOldOneOtherwise) {
-    sesion().MostrarAvisoFuncionValor = false;
     Escalones({{"1", "=0", "<10", "0"}, {"2", "", "", ""}, {"3", "", "", ""}});
-    const std::tuple<int, int, const char*> pasos[] = {
-        {2, 1, "=10"}, {2, 3, "-0"}, {2, 3, "medio"}, {2, 3, "2"},
-        {3, 3, "0.5"}, {2, 3, ""},   {2, 2, "20"},
-    };
     Acta acta;
-    for (const auto& [fila, columna, texto] : pasos) {
-        EscribirCelda(fila, columna, texto);
-        acta.Fila("cell " + std::to_string(fila) + "," + std::to_string(columna) + " '" + texto +
-                      "'",
-                  "'" + editor.Filas[static_cast<std::size_t>(fila - 1)][columna] + "'" +
-                      (editor.EntradaAbierta ? ", input open" : ""));
+    for (const Caso& caso : Casos("editor_funcion/salir_celda.txt")) {
+        const int fila = std::stoi(caso.campos.at(1));
+        const int columna = std::stoi(caso.campos.at(2));
+        Escribir(fila, columna, caso.campos.at(3));
+        acta.Fila(caso.texto, "'" + editor.Filas[static_cast<std::size_t>(fila - 1)][columna] +
+                                  "'" + (editor.EntradaAbierta ? ", input open" : ""));
     }
     acta.Comparar("editor_funcion/salir_celda.txt");
     const int dibujos = editor.Dibujos;
@@ -402,26 +299,18 @@ TEST_F(Editor, LeavingACellCommitsAGoodTextAndKeepsTheOldOneOtherwise) {
 }
 
 TEST_F(Editor, TheKeysOfTheFloatingInputValidateCommitAndMove) {
-    sesion().MostrarAvisoFuncionValor = false;
     Escalones({{"1", "=0", "<10", "0"}, {"2", "=10", "=20", "1"}});
     const char* const acciones[] = {"nothing", "committed", "discarded", "moved", "kept open"};
-    const std::tuple<int, int, int, const char*> casos[] = {
-        {1, 1, 37, "=0"},  {1, 2, 37, "<10"}, {1, 3, 39, "0"},   {1, 1, 39, "=0"},
-        {1, 1, 38, "=0"},  {1, 1, 40, "=0"},  {2, 1, 40, "=10"}, {1, 3, 40, "0.5"},
-        {2, 2, 13, "=20"}, {2, 2, 27, "=25"}, {2, 2, 65, "=25"},
-    };
     Acta acta;
-    for (const auto& [fila, columna, tecla, texto] : casos) {
-        editor.FilaActual = fila;
-        editor.ColumnaActual = columna;
+    for (const Caso& caso : Casos("editor_funcion/teclas_entrada.txt")) {
+        EnCelda(caso, 3);
         ASSERT_TRUE(editor.AbrirCelda());
-        const AccionEntrada accion = editor.TeclaEntrada(tecla, texto);
-        acta.Fila("key " + std::to_string(tecla) + " at " + std::to_string(fila) + "," +
-                      std::to_string(columna) + " on '" + texto + "'",
-                  std::string(acciones[static_cast<int>(accion)]) + ", now at " +
-                      std::to_string(editor.FilaActual) + "," +
-                      std::to_string(editor.ColumnaActual) +
-                      (editor.EntradaAbierta ? ", input open" : ""));
+        const AccionEntrada accion =
+            editor.TeclaEntrada(std::stoi(caso.campos.at(1)), caso.campos.at(6));
+        acta.Fila(caso.texto, std::string(acciones[static_cast<int>(accion)]) + ", now at " +
+                                  std::to_string(editor.FilaActual) + "," +
+                                  std::to_string(editor.ColumnaActual) +
+                                  (editor.EntradaAbierta ? ", input open" : ""));
         editor.EntradaAbierta = false;
     }
     acta.Comparar("editor_funcion/teclas_entrada.txt");
@@ -429,27 +318,22 @@ TEST_F(Editor, TheKeysOfTheFloatingInputValidateCommitAndMove) {
 }
 
 TEST_F(Editor, ErrorMinMaxWantsAZeroAndAOneSomewhere) {
-    const std::vector<const char*> casos[] = {
-        {"0", "0.5", "1"}, {"1", "0", "1"}, {"1", "0.5", "1"}, {"0"}, {"1"}, {"0", "", "1"}, {},
-    };
     Acta acta;
-    for (const auto& valores : casos) {
+    for (const Caso& caso : Casos("editor_funcion/min_max.txt")) {
         std::vector<FilaIntervalo> filas;
-        std::string listado;
-        for (const char* valor : valores) {
-            filas.push_back({"", "", "", valor});
-            listado += std::string(" '") + valor + "'";
+        for (std::size_t k = 1; k < caso.campos.size(); ++k) {
+            filas.push_back({"", "", "", caso.campos[k]});
         }
         Escalones(filas);
-        if (valores.empty()) {
+        if (filas.empty()) {
             editor.CambiarIntervalos(0);
         }
         editor.FilaActual = 2;
         editor.ColumnaActual = 1;
         const bool error = editor.ErrorMinMax();
-        acta.Fila("values" + listado, (error ? "refused" : "passes") + std::string(", cell ") +
-                                          std::to_string(editor.FilaActual) + "," +
-                                          std::to_string(editor.ColumnaActual));
+        acta.Fila(caso.texto, (error ? "refused" : "passes") + std::string(", cell ") +
+                                  std::to_string(editor.FilaActual) + "," +
+                                  std::to_string(editor.ColumnaActual));
     }
     acta.Comparar("editor_funcion/min_max.txt");
     editor.EntradaAbierta = true;
@@ -459,12 +343,14 @@ TEST_F(Editor, ErrorMinMaxWantsAZeroAndAOneSomewhere) {
     EXPECT_FALSE(editor.ErrorMinMax()) << "only for steps";
 }
 
+// The cases of one interval's notation first: "<start> <end>".
 TEST_F(Editor, TheReferenceLabelsListTheStepsWorthZeroAndOne) {
-    const std::pair<const char*, const char*> extremos[] = {
-        {"=10", "<20"}, {">0", "=5"}, {"", "=5"}, {"<3", ""}, {"", ""}};
     Acta acta;
-    for (const auto& [inicio, fin] : extremos) {
-        acta.Fila(std::string("'") + inicio + "' '" + fin + "'", FormatoIntervalo(inicio, fin));
+    for (const Caso& caso : Casos("editor_funcion/etiquetas_ref.txt")) {
+        if (caso.campos.size() != 2) {
+            break;
+        }
+        acta.Fila(caso.texto, FormatoIntervalo(caso.campos[0], caso.campos[1]));
     }
     Escalones({{"1", "=0", "<10", "0"},
                {"2", "=10", "<20", "0.5"},
@@ -480,37 +366,8 @@ TEST_F(Editor, TheReferenceLabelsListTheStepsWorthZeroAndOne) {
     acta.Comparar("editor_funcion/etiquetas_ref.txt");
 }
 
-TEST_F(Editor, TheCountOfIntervalsGrowsFreelyAndShrinksOnlyWhenConfirmed) {
-    editor.Tipo = kTipoEscalon;
-    EXPECT_EQ(editor.Filas, (std::vector<FilaIntervalo>{{" -", " -", " -", " -"}}));
-    editor.CambiarIntervalos(1);
-    EXPECT_EQ(editor.Filas, (std::vector<FilaIntervalo>{{"1", "", "", ""}}));
-    EXPECT_TRUE(editor.RejillaHabilitada);
-    editor.CambiarIntervalos(3);
-    editor.Filas[2][1] = "=20";
-    EXPECT_EQ(editor.Filas.back()[0], "3");
-    confirmar = false;
-    editor.CambiarIntervalos(2);
-    EXPECT_EQ(editor.Intervalos, 3) << "declined: the count and the rows stay";
-    EXPECT_EQ(editor.Filas.size(), 3U);
-    confirmar = true;
-    editor.CambiarIntervalos(2);
-    EXPECT_EQ(editor.Filas.size(), 2U) << "rows go from the end";
-    editor.Aviso = false;
-    editor.CambiarIntervalos(0);
-    EXPECT_EQ(confirmaciones, 2) << "without the warning nothing is asked";
-    EXPECT_EQ(editor.Filas, (std::vector<FilaIntervalo>{{" -", " -", " -", " -"}}));
-    EXPECT_FALSE(editor.RejillaHabilitada);
-    editor.Aviso = true;
-    editor.Cargando = true;
-    editor.CambiarIntervalos(2);
-    editor.CambiarIntervalos(1);
-    EXPECT_EQ(confirmaciones, 2) << "nothing is asked while loading";
-    EXPECT_FALSE(editor.AbrirCelda() && editor.ColumnaActual == 0);
-    editor.ColumnaActual = 0;
-    EXPECT_FALSE(editor.AbrirCelda()) << "the column Id is not edited";
-}
-
+// A case "tab <before> kind <chosen> click on tab <afterwards, 0: none>" on a fresh editor, or
+// "then kind|tab|optional <n>": one more step on one editor, optional 1 ticking the box.
 TEST_F(Editor, TheKindListAndTheTabsShowTheirPanels) {
     const auto paneles = [](const EditorFuncion& e) {
         const Paneles& p = e.paneles;
@@ -526,37 +383,34 @@ TEST_F(Editor, TheKindListAndTheTabsShowTheirPanels) {
         }
         return "tab " + std::to_string(e.Pestana) + ":" + texto;
     };
-    // The tab before, the kind chosen, the tab clicked afterwards (0: none).
-    const std::array<int, 3> casos[] = {
-        {1, kTipoContinua, 0},   {2, kTipoContinua, 0},   {2, kTipoEscalon, 0},
-        {1, kTipoPuntuacion, 0}, {2, kTipoPuntuacion, 0}, {1, kTipoPuntuacion, 2},
-        {1, kTipoContinua, 2},   {1, kTipoEscalon, 2},    {2, kTipoPuntuacion, 1},
-    };
     Acta acta;
-    for (const auto& [antes, tipo, pestana] : casos) {
-        EditorFuncion e;
-        e.Pestana = antes;
-        e.ClickTipo(tipo);
-        if (pestana != 0) {
-            e.ClickPestana(pestana);
+    EditorFuncion pasos;
+    for (const Caso& caso : Casos("editor_funcion/paneles.txt")) {
+        const auto numero = [&caso](std::size_t k) { return std::stoi(caso.campos.at(k)); };
+        if (caso.campos.at(0) == "then") {
+            if (caso.campos.at(1) == "kind") {
+                pasos.ClickTipo(numero(2));
+            } else if (caso.campos.at(1) == "tab") {
+                pasos.ClickPestana(numero(2));
+            } else {
+                pasos.ClickOptativos(numero(2) == 1);
+            }
+            acta.Fila(caso.texto, paneles(pasos) + (pasos.TipoHabilitado ? ", kind list on" : "") +
+                                      (pasos.PlantillasHabilitadas ? ", templates on" : ""));
+            continue;
         }
-        acta.Fila("tab " + std::to_string(antes) + ", kind " + std::to_string(tipo) +
-                      ", click on tab " + std::to_string(pestana),
-                  paneles(e));
+        EditorFuncion e;
+        e.Pestana = numero(1);
+        e.ClickTipo(numero(3));
+        if (numero(7) != 0) {
+            e.ClickPestana(numero(7));
+        }
+        acta.Fila(caso.texto, paneles(e));
     }
-    EditorFuncion e;
-    e.ClickTipo(kTipoEscalon);
-    e.ClickOptativos(true);
-    acta.Fila("steps, then the optional indicators",
-              paneles(e) + (e.TipoHabilitado ? ", kind list on" : "") +
-                  (e.PlantillasHabilitadas ? ", templates on" : ""));
-    e.ClickOptativos(false);
-    acta.Fila("the optional indicators off", paneles(e));
     acta.Comparar("editor_funcion/paneles.txt");
 }
 
 TEST_F(Editor, ReadingAndWritingKeepEveryKindOfRecord) {
-    sesion().MostrarAvisoFuncionValor = false;
     FuncionValor continua = pruebas::Continua();
     FuncionValor escalones = pruebas::DeEscalones<FuncionValor>();
     escalones.C = 7.0; // a step function keeps its old parameters
@@ -581,8 +435,7 @@ TEST_F(Editor, ReadingAndWritingKeepEveryKindOfRecord) {
     EXPECT_TRUE(e.PuedeCerrar()) << "accepted: no question";
 }
 
-TEST_F(Editor, AcceptingWritesTheRecordAndCancellingRestoresTheFlag) {
-    sesion().MostrarAvisoFuncionValor = false;
+TEST_F(Editor, AcceptingWritesTheRecordCancellingRestoresTheFlagActivatingChecks) {
     FuncionValor registro = pruebas::Continua();
     EditorFuncion e;
     e.Cargar(registro);
@@ -610,26 +463,21 @@ TEST_F(Editor, AcceptingWritesTheRecordAndCancellingRestoresTheFlag) {
                                                           ", kind " + std::to_string(p.Tipo) +
                                                           ", record " + std::to_string(vacia.Tipo));
     }
+
+    // The activation reports a limit that no longer fits the steps.
+    FuncionValor escalones = pruebas::DeEscalones<FuncionValor>();
+    escalones.XMax = ">80";
+    EditorFuncion a;
+    a.Cargar(escalones);
+    a.Activar();
+    acta.Fila("activate with the upper limit '>80'",
+              "'" + a.Texto(Campo::Max) + "', focus on " +
+                  (a.foco ? Nombre(a.foco->campo) : "nothing") +
+                  (a.Activando ? ", still activating" : ""));
     acta.Comparar("editor_funcion/aceptar.txt");
 }
 
-TEST_F(Editor, ActivationReportsALimitThatNoLongerFits) {
-    sesion().MostrarAvisoFuncionValor = false;
-    FuncionValor registro = pruebas::DeEscalones<FuncionValor>();
-    registro.XMax = ">80";
-    EditorFuncion e;
-    e.Cargar(registro);
-    Acta acta;
-    e.Activar();
-    acta.Fila("activate with the upper limit '>80'",
-              "'" + e.Texto(Campo::Max) + "', focus on " +
-                  (e.foco ? Nombre(e.foco->campo) : "nothing") +
-                  (e.Activando ? ", still activating" : ""));
-    acta.Comparar("editor_funcion/activar.txt");
-}
-
 TEST_F(Editor, TheSecondInstanceWritesAnOptionalIndicatorsFunction) {
-    sesion().MostrarAvisoFuncionValor = false;
     FuncionOptativo registro = pruebas::DeEscalones<FuncionOptativo>();
     EditorFuncion e;
     e.Cargar(registro);
@@ -644,12 +492,11 @@ TEST_F(Editor, TheSecondInstanceWritesAnOptionalIndicatorsFunction) {
 }
 
 TEST_F(Editor, AStepFunctionTakesItsReferenceLimitsFromItsOuterSteps) {
-    sesion().MostrarAvisoFuncionValor = false;
     Escalones({{"1", "=0", "<10", "1"}, {"2", "=10", "=30", ""}});
-    EscribirCelda(2, 3, "0");
+    Escribir(2, 3, "0");
     EXPECT_EQ(editor.Texto(Campo::MinRef), "30") << "decreasing: the zero lies at the end";
     EXPECT_EQ(editor.Texto(Campo::MaxRef), "0");
-    EscribirCelda(1, 3, "0");
+    Escribir(1, 3, "0");
     EXPECT_EQ(editor.Texto(Campo::MinRef), "0");
     EXPECT_EQ(editor.Texto(Campo::MaxRef), "30");
     EXPECT_EQ(editor.lblMaxRef, "");

@@ -1,5 +1,6 @@
 #include "core/core/error_ejecucion.h"
 #include "core/functions/funcion_valor.h"
+#include "soporte/acta.h"
 
 #include <gtest/gtest.h>
 
@@ -40,27 +41,23 @@ TEST(ConvertirFuncion, CopiesTheFieldsAndLeavesOptionsAndScoresAbsent) {
     EXPECT_FALSE(f.Optativos.Presente() || f.Puntuaciones.Presente());
 }
 
+// A case "limits <XMin> <XMax> steps from <first start> to <last end>": closed steps open the
+// limits; an open start closes the lower limit; "<" clears below but keeps its sign above; a
+// bare number's first digit is no symbol; each half needs both of its values.
 TEST(NormalizarLimites, TheLimitsFollowTheOuterStepsUnequally) {
-    struct Caso {
-        const char *xmin, *inicio, *fin, *xmax, *xminNuevo, *xmaxNuevo;
-    };
-    for (const Caso& c : std::vector<Caso>{
-             {"=3", "=0", "=9", "=50", "<0", ">9"}, // closed steps, open limits
-             {"<3", ">0", ">9", "=50", "=0", ""},   // an open start closes the lower limit
-             {"<3", "<5", "<9", "=50", "", "=9"},   // "<" clears below but keeps the sign above
-             {"<0", "25", "<9", ">50", "<5", ">9"}, // a bare number's digit is no symbol
-             {"", "=0", "", ">8", "", ">8"},        // each half needs both values
-         }) {
+    pruebas::Acta acta;
+    for (const pruebas::Caso& caso : pruebas::Casos("funciones/normalizar_limites.txt")) {
         FuncionOptativo f;
-        f.XMin = c.xmin;
-        f.XMax = c.xmax;
+        f.XMin = caso.campos.at(1);
+        f.XMax = caso.campos.at(2);
         f.Escalones.Redimensionar(2);
-        f.Escalones(1).ValorInicial = c.inicio;
-        f.Escalones(2).ValorFinal = c.fin;
+        f.Escalones(1).ValorInicial = caso.campos.at(5);
+        f.Escalones(2).ValorFinal = caso.campos.at(7);
         NormalizarLimites(f);
-        EXPECT_EQ(f.XMin, ValorLibre(c.xminNuevo)) << c.xmin << ' ' << c.inicio;
-        EXPECT_EQ(f.XMax, ValorLibre(c.xmaxNuevo)) << c.xmax << ' ' << c.fin;
+        EXPECT_FALSE(f.XMin.EsNumero() || f.XMax.EsNumero()) << "limits stay texts";
+        acta.Fila(caso.texto, "'" + f.XMin.Texto() + "' '" + f.XMax.Texto() + "'");
     }
+    acta.Comparar("funciones/normalizar_limites.txt");
     FuncionValor sinPasos;
     sinPasos.XMin = "<1";
     NormalizarLimites(sinPasos);

@@ -1,10 +1,12 @@
 #include "core/functions/graficos.h"
+#include "soporte/acta.h"
 #include "soporte/datos.h"
 #include "soporte/modelo_sano.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <sstream>
 
 namespace vadro {
 namespace {
@@ -38,12 +40,7 @@ TEST(Grafica, TheListReadsAsTextAndAClearingHidesWhatCameBefore) {
     g.Linea(0, 0, 0.5F, 0.25F, kAzul);
     g.Rectangulo(0, 0, 10, 10, 0x123456);
     g.TextoVertical(-2, 300, "R(X)");
-    EXPECT_EQ(ListadoGrafica(g), "Escala (-10,1.2) (115,-0.3)\n"
-                                 "Linea 2 000000 (0,0) (105,0)\n"
-                                 "Borrar\n"
-                                 "Linea 3 FF0000 (0,0) (0.5,0.25)\n"
-                                 "Rectangulo 123456 (0,0) (10,10)\n"
-                                 "TextoVertical 000000 (-2,300) \"R(X)\"\n");
+    EXPECT_EQ(ListadoGrafica(g), pruebas::Datos("graficos/listado.txt", ListadoGrafica(g)));
     const auto visibles = g.Visibles();
     ASSERT_EQ(visibles.size(), 4U) << "the scale in force, then what follows the clearing";
     EXPECT_EQ(visibles[0].tipo, Tipo::Escala);
@@ -77,42 +74,24 @@ TEST(Graficar, AnIncreasingCurveIsOneListOfFrameCurveAxesAndReferenceLines) {
     EXPECT_EQ(Contar(g, Tipo::Linea, kAzul, 3), 199);
 }
 
+// A case "references <min> <max>", with "adjusted" when both boxes adjust them: decreasing
+// references swap the captions; adjusting both gives the default frame; one empty reference
+// gives 0 and 100 for both; the same text twice draws only when adjusted.
 TEST(Graficar, TheFramesAndCaptionsFollowTheReferenceTexts) {
-    struct Caso {
-        const char* minRef;
-        const char* maxRef;
-        bool ajustar;
-        bool dibujada;
-        const char* minimo;
-        const char* maximo;
-        float inferior;
-        float superior;
-    };
-    const Caso casos[] = {
-        {"100", "0", false, true, "0", "100", 0, 100}, // decreasing: captions swap
-        {"", "", true, true, "", "", 0, 100},          // both adjusted: the default frame
-        {"", "", false, false, "", "", 0, 0},          // nothing to draw
-        {"5", "", false, true, "", "5", 0, 100},       // one empty: 0 and 100 for both
-        {"7", "7", false, false, "", "", 0, 0},        // the same text and no adjusting
-        {"7", "7", true, true, "7", "7", 7, 7},        // no range at all, drawn all the same
-    };
-    for (const Caso& caso : casos) {
+    pruebas::Acta acta;
+    for (const pruebas::Caso& caso : pruebas::Casos("graficos/marcos.txt")) {
         CurvaEditor curva;
         Grafica g;
-        EntradaGrafica entrada = Continua(caso.minRef, caso.maxRef);
-        entrada.AjustarMinRef = entrada.AjustarMaxRef = caso.ajustar;
+        EntradaGrafica entrada = Continua(caso.campos.at(1), caso.campos.at(2));
+        entrada.AjustarMinRef = entrada.AjustarMaxRef = caso.campos.size() > 3;
         const ResultadoGrafica r = Graficar(entrada, curva, g);
-        const std::string donde = std::string(caso.minRef) + "|" + caso.maxRef;
-        EXPECT_EQ(r.Dibujada, caso.dibujada) << donde;
-        if (!caso.dibujada) {
-            EXPECT_EQ(ListadoGrafica(g), "Borrar\n") << donde;
-            continue;
-        }
-        EXPECT_EQ(r.Minimo, caso.minimo) << donde;
-        EXPECT_EQ(r.Maximo, caso.maximo) << donde;
-        EXPECT_EQ(r.Marco.Inferior, caso.inferior) << donde;
-        EXPECT_EQ(r.Marco.Superior, caso.superior) << donde;
+        std::ostringstream marco;
+        marco << r.Marco.Inferior << " " << r.Marco.Superior;
+        acta.Fila(caso.texto, r.Dibujada ? "drawn, captions '" + r.Minimo + "' '" + r.Maximo +
+                                               "', frame " + marco.str()
+                                         : "not drawn: " + ListadoGrafica(g));
     }
+    acta.Comparar("graficos/marcos.txt");
 }
 
 TEST(Graficar, WithoutACurveOnlyTheAxesAndTheReferenceLinesAreLeft) {
@@ -152,11 +131,9 @@ TEST(Graficar, StepsDrawCompleteRowsAndRisersOnlyBetweenCompleteRows) {
 
 TEST(GraficarOptativo, ContinuousWithCAsStoredOrStepsInTheReportFrame) {
     FuncionOptativo continua;
-    continua.Tipo = FuncionContinua;
+    static_cast<FuncionComun&>(continua) = pruebas::Continua(); // RMax 100, K 0.5
     continua.RMin = 20.0;
-    continua.RMax = 100.0;
     continua.C = 60.0;
-    continua.K = 0.5;
     continua.P = 3.0;
     const Grafica g = GraficarOptativo(continua);
     EXPECT_EQ(ListadoGrafica(g),
@@ -196,16 +173,9 @@ TEST(GraficarInforme, TheReportDrawsTheStoredCurveTheStepsOrTheCrossedBox) {
     Grafica caja;
     f.K = ValorLibre();
     EXPECT_FALSE(GraficarInforme(f, caja));
-    Grafica esperada;
-    GraficarCajaCruzada(esperada);
-    EXPECT_EQ(caja, esperada);
-    EXPECT_EQ(ListadoGrafica(caja), "Escala (-2,102) (102,-2)\nBorrar\n"
-                                    "Linea 1 0000FF (0,100) (100,0)\n"
-                                    "Linea 1 0000FF (100,100) (0,0)\n"
-                                    "Linea 1 000000 (0,0) (100,0)\n"
-                                    "Linea 1 000000 (100,0) (100,100)\n"
-                                    "Linea 1 000000 (100,100) (0,100)\n"
-                                    "Linea 1 000000 (0,100) (0,0)\n");
+    // The crossed box, as GraficarCajaCruzada draws it for the report.
+    EXPECT_EQ(ListadoGrafica(caja),
+              pruebas::Datos("graficos/caja_cruzada.txt", ListadoGrafica(caja)));
 
     Grafica escalones;
     EXPECT_TRUE(GraficarInformeEscalon(pruebas::DeEscalones<FuncionValor>(), escalones));

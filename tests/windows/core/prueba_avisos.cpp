@@ -2,6 +2,7 @@
 #include "core/core/version.h"
 #include "soporte/guion_modales.h"
 #include "soporte/prueba_sesion.h"
+#include "soporte/volcado_ventana.h"
 #include "windows/core/frmAcercaDe.h"
 #include "windows/core/frmAvisoFuncionValor.h"
 #include "windows/core/frmAvisoVersionBeta.h"
@@ -33,18 +34,8 @@ QString Texto(const QObject& ventana, const char* nombre) {
 
 TEST_F(Avisos, TheDevelopmentNoticeShowsItsFourLabelsAndWritesItsKeyOnEachClick) {
     frmAvisoVersionBeta aviso;
-    EXPECT_EQ(aviso.windowTitle(), QStringLiteral("VADRO PROGRAMADOR"));
-    EXPECT_EQ(Texto(aviso, "lblAviso1").toStdString(),
-              "Esta aplicación se encuentra en desarrollo, por lo que pueden aparecer errores.");
-    EXPECT_EQ(Texto(aviso, "lblAviso2").toStdString(),
-              "Se recomienda guardar los cambios con regularidad e informar de los errores a los "
-              "desarrolladores a través de la web:");
-    EXPECT_TRUE(Texto(aviso, "lblAviso3").startsWith(QStringLiteral("https://")));
-    EXPECT_EQ(Texto(aviso, "lblAviso4").toStdString(),
-              "Es conveniente tener instalada la última versión disponible y efectuar un control "
-              "regular de la web para posibles actualizaciones.");
+    pruebas::CompararVolcado(aviso, "frmAvisoVersionBeta");
     auto* chk = Hijo<QCheckBox>(aviso, "chkAviso");
-    EXPECT_EQ(chk->text().toStdString(), "No volver a mostrar esta ventana.");
     chk->click();
     EXPECT_FALSE(sesion().configuracion.MostrarAvisoBeta);
     EXPECT_EQ(Clave("MOSTRAR_AVISO_BETA"), "Falso");
@@ -56,9 +47,7 @@ TEST_F(Avisos, TheDevelopmentNoticeShowsItsFourLabelsAndWritesItsKeyOnEachClick)
 TEST_F(Avisos, TheFunctionDrawingNoticeLastsForTheSessionOnly) {
     bool mostrar = true;
     frmAvisoFuncionValor aviso(mostrar);
-    EXPECT_EQ(
-        Texto(aviso, "lblAviso").toStdString(),
-        "Introducir valores de límites y de satisfacción para obtener la representación gráfica.");
+    pruebas::CompararVolcado(aviso, "frmAvisoFuncionValor");
     Hijo<QCheckBox>(aviso, "chkAviso")->click();
     EXPECT_FALSE(mostrar);
     Hijo<QCheckBox>(aviso, "chkAviso")->click();
@@ -69,23 +58,18 @@ TEST_F(Avisos, TheFunctionDrawingNoticeLastsForTheSessionOnly) {
 TEST_F(Avisos, TheConfirmationAnswersWithItsButtons) {
     bool mostrar = true;
     frmConfirmacion confirmacion(mostrar);
-    EXPECT_EQ(Texto(confirmacion, "lblAviso").toStdString(),
-              "¿Está seguro que quiere reducir el número de intervalos?  Los datos "
-              "correspondientes a los últimos se perderán.");
+    pruebas::CompararVolcado(confirmacion, "frmConfirmacion");
     Hijo<QCheckBox>(confirmacion, "chkAviso")->click();
     EXPECT_FALSE(mostrar);
-    {
+    for (const auto& [boton, resultado] :
+         {std::pair{"cmdCancelar", QDialog::Rejected}, {"cmdAceptar", QDialog::Accepted}}) {
+        frmConfirmacion otra(mostrar);
         pruebas::GuionModales modales;
         modales.Esperar(QStringLiteral("frmConfirmacion"),
-                        [](QDialog& d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
-        EXPECT_EQ(MostrarModal(confirmacion), QDialog::Rejected);
+                        [boton = boton](QDialog& d) { Hijo<QPushButton>(d, boton)->click(); });
+        EXPECT_EQ(MostrarModal(otra), resultado) << boton;
+        EXPECT_FALSE(otra.Cargado) << "closing unloads it";
     }
-    frmConfirmacion otra(mostrar);
-    pruebas::GuionModales modales;
-    modales.Esperar(QStringLiteral("frmConfirmacion"),
-                    [](QDialog& d) { Hijo<QPushButton>(d, "cmdAceptar")->click(); });
-    EXPECT_EQ(MostrarModal(otra), QDialog::Accepted);
-    EXPECT_FALSE(otra.Cargado) << "closing unloads it";
 }
 
 TEST_F(Avisos, TheAboutBoxShowsTheVersion) {
@@ -100,12 +84,8 @@ TEST_F(Avisos, TheStartScreenCheckBoxWritesAtOnceAndTheButtonsLead) {
     int nuevos = 0;
     int abiertos = 0;
     frmInicio inicio([&] { ++nuevos; }, [&] { ++abiertos; });
-    EXPECT_EQ(inicio.windowTitle().toStdString(), "Iniciar Vadro Programador");
-    EXPECT_EQ(Hijo<QPushButton>(inicio, "cmdNuevo")->text(), QStringLiteral("NUEVO"));
-    EXPECT_EQ(Hijo<QPushButton>(inicio, "cmdExistente")->text(), QStringLiteral("EXISTENTE"));
+    pruebas::CompararVolcado(inicio, "frmInicio");
     auto* chk = Hijo<QCheckBox>(inicio, "chkNoMostrar");
-    EXPECT_EQ(chk->text().toStdString(), "No mostrar este cuadro de diálogo en el futuro");
-    EXPECT_FALSE(chk->isChecked());
     chk->click();
     EXPECT_FALSE(sesion().configuracion.MostrarInicio);
     EXPECT_EQ(Clave("MOSTRAR_INICIO"), "Falso");

@@ -17,20 +17,16 @@ TEST(EditarCelda, TheInputOpensOverTheCurrentCellWithItsTextOrTheTypedCharacter)
     rejilla.show();
     rejilla.setCurrentCell(1, 2);
 
-    struct Caso {
-        int tecla;
-        const char* texto;
-        bool seleccionado;
-    };
-    // Space and the control codes open on the cell's text; any other code is typed.
-    for (const Caso& caso : {Caso{32, "0.25", true}, Caso{0, "0.25", true}, Caso{'7', "7", false},
-                             Caso{0xE9, "é", false}}) {
+    // The key, the input's text, whether it is selected. Space and the control codes open on the
+    // cell's text; any other code is typed.
+    for (const auto& [tecla, texto, seleccionado] :
+         {std::tuple{32, "0.25", true}, {0, "0.25", true}, {'7', "7", false}, {0xE9, "é", false}}) {
         entrada->hide();
-        Editar(rejilla, *entrada, caso.tecla);
-        EXPECT_TRUE(entrada->isVisible()) << caso.tecla;
-        EXPECT_EQ(entrada->text(), QString::fromUtf8(caso.texto)) << caso.tecla;
-        EXPECT_EQ(entrada->hasSelectedText(), caso.seleccionado) << caso.tecla;
-        if (!caso.seleccionado) {
+        Editar(rejilla, *entrada, tecla);
+        EXPECT_TRUE(entrada->isVisible()) << tecla;
+        EXPECT_EQ(entrada->text(), QString::fromUtf8(texto)) << tecla;
+        EXPECT_EQ(entrada->hasSelectedText(), seleccionado) << tecla;
+        if (!seleccionado) {
             EXPECT_EQ(entrada->cursorPosition(), entrada->text().size()) << "caret behind it";
         }
         const QRect celda = rejilla.visualRect(rejilla.currentIndex());

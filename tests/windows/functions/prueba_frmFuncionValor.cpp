@@ -3,9 +3,7 @@
 #include "soporte/guion_dialogos.h"
 #include "soporte/guion_modales.h"
 #include "soporte/modelo_sano.h"
-#include "soporte/prueba_sesion.h"
 #include "soporte/volcado_ventana.h"
-#include "windows/functions/arriba_abajo.h"
 #include "windows/functions/frmFuncionValor.h"
 
 #include <QAbstractItemModelTester>
@@ -17,7 +15,6 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
-#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -26,46 +23,16 @@
 namespace vadro {
 namespace {
 
+using pruebas::Celda;
+using pruebas::Flecha;
 using pruebas::Hijo;
+using pruebas::Teclear;
 
 class VentanaFuncion : public pruebas::EditorAbierto {
 protected:
-    QLineEdit* Entrada(const char* nombre) { return Hijo<QLineEdit>(*ventana, nombre); }
     QString Etiqueta(const char* nombre) { return Hijo<QLabel>(*ventana, nombre)->text(); }
-    // Types into an input in place of its text, as a user who selected it all.
-    void Escribir(const char* nombre, const QString& texto) {
-        QLineEdit* entrada = Entrada(nombre);
-        entrada->setFocus();
-        entrada->selectAll();
-        QTest::keyClicks(entrada, texto);
-    }
     // Leaves the input for the unit box.
     void Salir() { Entrada("txtUnidades")->setFocus(Qt::TabFocusReason); }
-    void Flecha(const char* control, bool arriba) {
-        const auto botones = Hijo<ArribaAbajo>(*ventana, control)->findChildren<QToolButton*>();
-        botones[arriba ? 0 : 1]->click();
-    }
-    void ElegirTipo(int indice) {
-        auto* combo = ventana->cbbTipoFuncionPrimaria;
-        combo->setFocus();
-        while (combo->currentIndex() < indice) {
-            QTest::keyClick(combo, Qt::Key_Down);
-        }
-    }
-    // Types a cell through the grid's floating input and ends with a key.
-    void Celda(int fila, int columna, const QString& texto, Qt::Key fin = Qt::Key_Return) {
-        QTableView* rejilla = ventana->grdIntervalos;
-        rejilla->setFocus();
-        rejilla->setCurrentIndex(rejilla->model()->index(fila - 1, columna));
-        QTest::keyClick(rejilla, texto.at(0).toLatin1());
-        ASSERT_TRUE(ventana->txtValor->isVisible());
-        QTest::keyClicks(ventana->txtValor, texto.mid(1));
-        QTest::keyClick(ventana->txtValor, fin);
-    }
-    QString TextoCelda(int fila, int columna) {
-        return ventana->grdIntervalos->model()->index(fila - 1, columna).data().toString();
-    }
-    void Aceptar() { QTest::mouseClick(ventana->cmdAceptar, Qt::LeftButton); }
 };
 
 TEST_F(VentanaFuncion, ANewFunctionShowsTheNoticeAtOnceAndItsOptionLastsTheSession) {
@@ -84,22 +51,21 @@ TEST_F(VentanaFuncion, ANewFunctionShowsTheNoticeAtOnceAndItsOptionLastsTheSessi
 
 TEST_F(VentanaFuncion, CBoundsWithEmptyAndNarrowLimitsLettersInKAndTheRecordWritten) {
     Abrir(FuncionValor{});
-    EXPECT_EQ(Etiqueta("lblLimitesC").toStdString(), "Pto. inflexión en abcisa (0 < C < 100)");
-    Escribir("txtC", QStringLiteral("50"));
+    Teclear(Entrada("txtC"), QStringLiteral("50"));
     EXPECT_EQ(ventana->cbbTipoFuncionPrimaria->currentText().toStdString(), "Continua");
-    Flecha("updC", true);
+    Flecha(ventana->upd[0], true);
     EXPECT_EQ(Entrada("txtC")->text(), QStringLiteral("51.00")) << "a step of 1 from 0 to 100";
-    Escribir("txtMinRef", QStringLiteral("0"));
+    Teclear(Entrada("txtMinRef"), QStringLiteral("0"));
     Salir();
-    Escribir("txtMaxRef", QStringLiteral("0.5"));
+    Teclear(Entrada("txtMaxRef"), QStringLiteral("0.5"));
     Salir();
     EXPECT_EQ(Etiqueta("lblLimitesC").toStdString(), "Pto. inflexión en abcisa (0 < C < 0.5)");
     EXPECT_EQ(Entrada("txtC")->text(), QStringLiteral("0"))
         << "clamped at each key: while the limit read 0, C had to lie between 0 and 0";
-    Escribir("txtC", QStringLiteral("0.25"));
-    Flecha("updC", true);
+    Teclear(Entrada("txtC"), QStringLiteral("0.25"));
+    Flecha(ventana->upd[0], true);
     EXPECT_EQ(Entrada("txtC")->text(), QStringLiteral("0.26")) << "the step is raised to 0.01";
-    Escribir("txtK", QStringLiteral("0.5"));
+    Teclear(Entrada("txtK"), QStringLiteral("0.5"));
     mensajes.Esperar("VADRO PROGRAMADOR: error", "Debe introducir un número.");
     QTest::keyClicks(Entrada("txtK"), QStringLiteral("x"));
     EXPECT_EQ(Entrada("txtK")->text(), QStringLiteral("0.50"));
@@ -120,33 +86,21 @@ TEST_F(VentanaFuncion, CBoundsWithEmptyAndNarrowLimitsLettersInKAndTheRecordWrit
 
 TEST_F(VentanaFuncion, AThreeRowStepFunctionIsTypedAndAccepted) {
     Abrir(FuncionValor{});
-    ElegirTipo(kTipoEscalon);
+    pruebas::ElegirTipo(*ventana, kTipoEscalon);
     EXPECT_TRUE(ventana->fmeEscalon->isVisible());
     EXPECT_FALSE(ventana->fmeContinua->isVisible());
     EXPECT_FALSE(ventana->grdIntervalos->isEnabled());
-    EXPECT_EQ(TextoCelda(1, 2), QStringLiteral(" -"));
-    for (int i = 0; i < 3; ++i) {
-        Flecha("updIntervalos", true);
-    }
-    EXPECT_EQ(Etiqueta("lblIntervalos"), QStringLiteral("3"));
+    EXPECT_EQ(pruebas::Texto(ventana->grdIntervalos, 1, 2), QStringLiteral(" -"));
     QAbstractItemModelTester comprobador(ventana->grdIntervalos->model());
-    Celda(1, 1, QStringLiteral("=0"), Qt::Key_Right);
-    Celda(1, 2, QStringLiteral("<10"), Qt::Key_Right);
-    Celda(1, 3, QStringLiteral("0"));
-    Celda(2, 1, QStringLiteral("=10"));
-    Celda(2, 2, QStringLiteral("<20"));
-    Celda(2, 3, QStringLiteral("0.5"));
-    Celda(3, 1, QStringLiteral("=20"));
-    Celda(3, 2, QStringLiteral("=30"));
-    Celda(3, 3, QStringLiteral("1"));
+    pruebas::Escalones(*ventana, {{"=0", "<10", "0"}, {"=10", "<20", "0.5"}, {"=20", "=30", "1"}});
+    EXPECT_EQ(Etiqueta("lblIntervalos"), QStringLiteral("3"));
     EXPECT_EQ(Etiqueta("lblMinRef"), QStringLiteral("[0,10)"));
     EXPECT_EQ(Etiqueta("lblMaxRef"), QStringLiteral("[20,30]"));
     EXPECT_TRUE(Hijo<QLabel>(*ventana, "lblMinRef")->isVisible());
     EXPECT_FALSE(Entrada("txtMinRef")->isVisible());
-    Escribir("txtMax", QStringLiteral(">30"));
+    Teclear(Entrada("txtMax"), QStringLiteral(">30"));
     Salir();
     Aceptar();
-    EXPECT_FALSE(ventana->isVisible());
     const FuncionValor& f = Registro();
     EXPECT_EQ(f.Tipo, FuncionEscalon);
     ASSERT_EQ(f.Escalones.Tamano(), 3);
@@ -162,15 +116,15 @@ TEST_F(VentanaFuncion, ReducingTheCountAsksThroughTheConfirmation) {
     pruebas::GuionModales modales;
     modales.Esperar(QStringLiteral("frmConfirmacion"),
                     [](QDialog& d) { Hijo<QPushButton>(d, "cmdCancelar")->click(); });
-    Flecha("updIntervalos", false);
+    Flecha(ventana->updIntervalos, false);
     EXPECT_EQ(Etiqueta("lblIntervalos"), QStringLiteral("3"));
     EXPECT_EQ(ventana->grdIntervalos->model()->rowCount(), 3);
     modales.Esperar(QStringLiteral("frmConfirmacion"), [](QDialog& d) {
         Hijo<QCheckBox>(d, "chkAviso")->click();
         Hijo<QPushButton>(d, "cmdAceptar")->click();
     });
-    Flecha("updIntervalos", false);
-    Flecha("updIntervalos", false);
+    Flecha(ventana->updIntervalos, false);
+    Flecha(ventana->updIntervalos, false);
     EXPECT_EQ(Etiqueta("lblIntervalos"), QStringLiteral("1"));
     EXPECT_EQ(modales.Vistas().size(), 2U) << "the box switched the question off";
 }
@@ -199,11 +153,10 @@ TEST_F(VentanaFuncion, AStepFunctionSavedAsATemplateComesBack) {
         QTest::mouseClick(ventana->cmdCargar, Qt::LeftButton);
         EXPECT_EQ(dialogos.Peticiones().at(0).directorioInicial, Directorio());
     }
+    // The window shows what it loaded: its kind and its grid (the inputs as the dump of a step
+    // function shows them).
     EXPECT_EQ(ventana->cbbTipoFuncionPrimaria->currentText().toStdString(), "Escalón");
-    EXPECT_EQ(Entrada("txtMin")->text(), QStringLiteral("<0"));
-    EXPECT_EQ(Entrada("txtMax")->text(), QStringLiteral(">90"));
-    EXPECT_EQ(Etiqueta("lblIntervalos"), QStringLiteral("3"));
-    EXPECT_EQ(TextoCelda(3, 1), QStringLiteral(">60"));
+    EXPECT_EQ(pruebas::Texto(ventana->grdIntervalos, 3, 1), QStringLiteral(">60"));
     EXPECT_EQ(Registro(), pruebas::Continua()) << "nothing stored before acceptance";
     Aceptar();
     FuncionValor esperada = pruebas::DeEscalones<FuncionValor>();
