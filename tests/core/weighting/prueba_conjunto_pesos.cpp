@@ -1,4 +1,5 @@
 #include "core/core/error_ejecucion.h"
+#include "core/core/formato_numero.h"
 #include "core/weighting/conjunto_pesos.h"
 #include "referencia_ahp.h"
 #include "soporte/prueba_sesion.h"
@@ -97,7 +98,8 @@ TEST_F(ConjuntoPesos, LoadingExtendsRowsForcesTheDiagonalAndRecomputes) {
         EXPECT_NEAR(sesion().PesosEdicion(i).Numero(), ref.pesos[i - 1].Doble(), 1e-12);
         EXPECT_EQ(rejilla.Texto(i, 4), ref.pesos[i - 1].Texto00());
     }
-    EXPECT_TRUE(edicion.Consistencia.EsNumero());
+    const double lambda = Redondeado00(ref.lambda.Doble());
+    EXPECT_EQ(Formato00(edicion.Consistencia), Formato00((lambda - 3) / 2 / 0.58));
     EXPECT_EQ(aspecto, ColorConsistencia(edicion.Consistencia));
 
     // Blanking empties the two cells on show only: weights and ratio stay.
