@@ -55,18 +55,13 @@ protected:
     int impresiones = 0;
 };
 
-TEST_F(ImpresionLista, APageOfA4HoldsTheLinesOfItsHeightWithinTheMargins) {
+TEST_F(ImpresionLista, APageOfA4HoldsTheLinesOfItsHeightAndTheLinesFillPageAfterPage) {
     // 297 mm less 38.8 mm of margins, at a 10-point font of about 4.4 mm a line.
-    const int alto = PorPagina();
-    EXPECT_GE(alto, 45);
-    EXPECT_LE(alto, 65);
-    const int ancho = PorPagina(true);
-    EXPECT_LT(ancho, alto) << "a landscape page is lower";
+    const int n = PorPagina(), ancho = PorPagina(true);
+    EXPECT_GE(n, 45);
+    EXPECT_LE(n, 65);
+    EXPECT_LT(ancho, n) << "a landscape page is lower";
     EXPECT_GE(ancho, 28);
-}
-
-TEST_F(ImpresionLista, TheLinesFillPageAfterPage) {
-    const int n = PorPagina();
     struct Caso {
         int lineas;
         int paginas;
@@ -75,7 +70,7 @@ TEST_F(ImpresionLista, TheLinesFillPageAfterPage) {
          {Caso{0, 1}, Caso{1, 1}, Caso{n, 1}, Caso{n + 1, 2}, Caso{3 * n, 3}, Caso{3 * n + 1, 4}}) {
         EXPECT_EQ(Imprimir(caso.lineas), caso.paginas) << caso.lineas << " lines";
     }
-    EXPECT_EQ(Imprimir(n + 1, true), 2 + (n + 1 > 2 * PorPagina(true) ? 1 : 0));
+    EXPECT_EQ(Imprimir(n + 1, true), 2 + (n + 1 > 2 * ancho ? 1 : 0));
 }
 
 TEST_F(ImpresionLista, ShownColumnHeadingsTakeALineOfEveryPage) {
@@ -103,15 +98,6 @@ TEST_F(ImpresionLista, ALongLineWrapsAndTakesTheLinesItNeeds) {
         lista.addItem(Q("linea"));
     }
     EXPECT_EQ(ImprimirEn(lista), 2) << "the long first line takes more than one line";
-}
-
-TEST_F(ImpresionLista, APrinterThatCannotStartIsAPrinterError) {
-    QListWidget lista;
-    lista.addItem(Q("linea"));
-    ImpresoraElegida elegida;
-    elegida.archivo = Ruta("no/existe/lista.pdf");
-    const auto impresora = CrearImpresora(elegida);
-    EXPECT_EQ(pruebas::NumeroDeError([&] { ImprimirLista(lista, *impresora); }), ErrImpresora);
 }
 
 TEST_F(ImpresionLista, TheChosenPrinterIsSetUpAsItWasChosen) {
@@ -155,20 +141,15 @@ protected:
     int impresiones = 0;
 };
 
-TEST_F(ImpresionInforme, AnEmptyReportAndOneThatFitsEjectOnePage) {
+TEST_F(ImpresionInforme, PagesFollowTheTextAndTheMargins) {
+    // An empty report and one that fits eject one page. A4 less the report's margins leaves
+    // about 10 inches: some 45 lines of 11 points.
     EXPECT_EQ(Imprimir(Informe()), 1);
     EXPECT_EQ(Imprimir(Lineas(1)), 1);
-    EXPECT_EQ(Imprimir(Lineas(30)), 1);
-}
-
-TEST_F(ImpresionInforme, PagesFollowTheTextAndTheMargins) {
-    // A4 less the report's margins leaves about 10 inches: some 45 lines of 11 points.
-    const int una = Imprimir(Lineas(40));
+    EXPECT_EQ(Imprimir(Lineas(40)), 1);
     const int dos = Imprimir(Lineas(80));
-    const int cinco = Imprimir(Lineas(230));
-    EXPECT_EQ(una, 1);
     EXPECT_EQ(dos, 2);
-    EXPECT_EQ(cinco, 5);
+    EXPECT_EQ(Imprimir(Lineas(230)), 5);
     // Wider top and bottom margins leave room for fewer lines.
     EXPECT_GT(Imprimir(Lineas(80), {2000, 4000, 1000, 4000}), dos);
 }
@@ -181,10 +162,14 @@ TEST_F(ImpresionInforme, PicturesTakeTheirRoomAndNeverPartAcrossPages) {
     EXPECT_LT(paginas, 100);
 }
 
+// A list, a report and a PDF export on a device that cannot start.
 TEST_F(ImpresionInforme, ADeviceThatCannotStartIsAPrinterError) {
     ImpresoraElegida elegida;
     elegida.archivo = Ruta("no/existe/informe.pdf");
     const auto impresora = CrearImpresora(elegida);
+    QListWidget lista;
+    lista.addItem(Q("linea"));
+    EXPECT_EQ(pruebas::NumeroDeError([&] { ImprimirLista(lista, *impresora); }), ErrImpresora);
     EXPECT_EQ(pruebas::NumeroDeError([&] { ImprimirRTF(Lineas(3), *impresora); }), ErrImpresora);
     EXPECT_EQ(pruebas::NumeroDeError(
                   [&] { EscribirInformePdf(Lineas(3), Ruta("no/existe/informe.pdf")); }),

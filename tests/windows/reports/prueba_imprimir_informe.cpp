@@ -153,10 +153,15 @@ TEST_F(InformePrincipal, ARebuildLeavesTheUsersClipboardAlone) {
 TEST_F(InformePrincipal, PrintingGoesToTheChosenPrinterWithAWindowLoadedForTheMoment) {
     const std::string ruta = Ruta("impreso.pdf");
     pruebas::GuionImpresoras impresoras;
+    impresoras.Cancelar(); // says nothing
+    principal.mnuImprimir->trigger();
+    impresoras.ElegirArchivo(Ruta("no/existe/impreso.pdf"));
+    mensajes.Esperar("VADRO PROGRAMADOR: imprimir modelo", "Error 482 al realizar la impresión.");
+    principal.Imprimir();
     impresoras.ElegirArchivo(ruta);
     principal.mnuImprimir->trigger();
-    ASSERT_EQ(impresoras.Peticiones().size(), 1u);
-    EXPECT_EQ(impresoras.Peticiones()[0].flags, PeticionImprimirModelo().flags);
+    ASSERT_EQ(impresoras.Peticiones().size(), 3u);
+    EXPECT_EQ(impresoras.Peticiones()[2].flags, PeticionImprimirModelo().flags);
     EXPECT_EQ(principal.Abierta(Hija::Informe), nullptr) << "loaded for the moment only";
     // The same report on the same printer, page for page; the pictures are drawn, not pasted
     // as bitmaps: the only images are the icons.
@@ -166,26 +171,13 @@ TEST_F(InformePrincipal, PrintingGoesToTheChosenPrinterWithAWindowLoadedForTheMo
     EXPECT_EQ(PaginasPdf(ruta), paginas);
     EXPECT_GE(paginas, 2);
     EXPECT_LE(pruebas::ImagenesPdf(ruta), 2 * 7);
-}
 
-TEST_F(InformePrincipal, AnOpenReportStaysOpenAfterPrinting) {
+    // An open report stays open after printing.
     frmInforme& informe = Informe();
-    pruebas::GuionImpresoras impresoras;
-    impresoras.ElegirArchivo(Ruta("impreso.pdf"));
+    impresoras.ElegirArchivo(Ruta("otro.pdf"));
     principal.Imprimir();
     EXPECT_EQ(principal.Abierta(Hija::Informe), &informe);
-    EXPECT_GE(PaginasPdf(Ruta("impreso.pdf")), 2);
-}
-
-TEST_F(InformePrincipal, ACancelledPrinterDialogSaysNothingAndAFailureGivesTheMessage) {
-    pruebas::GuionImpresoras impresoras;
-    impresoras.Cancelar();
-    principal.Imprimir();
-
-    impresoras.ElegirArchivo(Ruta("no/existe/impreso.pdf"));
-    mensajes.Esperar("VADRO PROGRAMADOR: imprimir modelo", "Error 482 al realizar la impresión.");
-    principal.Imprimir();
-    EXPECT_EQ(principal.Abierta(Hija::Informe), nullptr);
+    EXPECT_EQ(PaginasPdf(Ruta("otro.pdf")), paginas);
 }
 
 TEST_F(InformePrincipal, ThePreviewShowsTheReportsPages) {
@@ -202,7 +194,12 @@ TEST_F(InformePrincipal, ThePreviewShowsTheReportsPages) {
     EXPECT_GE(paginas, 2);
 }
 
+// The entry follows printing in the file menu and writes a PDF beside the model.
 TEST_F(InformePrincipal, TheExportWritesAPdfBesideTheModel) {
+    const QList<QAction*> entradas = principal.mnuArchivo->actions();
+    EXPECT_EQ(entradas.value(entradas.indexOf(principal.mnuImprimir) + 1),
+              principal.mnuExportarPDF);
+    EXPECT_EQ(principal.mnuExportarPDF->text(), Q("&Exportar a PDF..."));
     sesion().modelo.Archivo = Ruta("puente.vdm");
     pruebas::GuionDialogos dialogos;
     dialogos.Elegir("Exportar informe a PDF", Ruta("puente"));
@@ -217,32 +214,6 @@ TEST_F(InformePrincipal, TheExportWritesAPdfBesideTheModel) {
     igual.setPageSize(QPageSize(QPageSize::A4));
     EXPECT_EQ(PaginasPdf(ruta), ImprimirRTF(GenerarInforme(sesion().modelo), igual));
     EXPECT_LE(pruebas::ImagenesPdf(ruta), 2 * 7);
-}
-
-TEST_F(InformePrincipal, AnExportCancelledWritesNothingAndAFailureSaysWhy) {
-    pruebas::GuionDialogos dialogos;
-    dialogos.Cancelar("Exportar informe a PDF");
-    const auto archivos = [this] {
-        return std::distance(std::filesystem::directory_iterator(Directorio()),
-                             std::filesystem::directory_iterator());
-    };
-    const auto antes = archivos();
-    principal.mnuExportarPDF->trigger();
-    EXPECT_EQ(archivos(), antes);
-
-    dialogos.Elegir("Exportar informe a PDF", Ruta("no/existe/informe.pdf"));
-    mensajes.Esperar("VADRO PROGRAMADOR: exportar a PDF",
-                     "Error 75 al exportar el informe a PDF: " + DescripcionError(ErrAccesoRuta) +
-                         ".");
-    principal.mnuExportarPDF->trigger();
-}
-
-TEST_F(InformePrincipal, TheExportEntryFollowsPrintingInTheFileMenu) {
-    const QList<QAction*> entradas = principal.mnuArchivo->actions();
-    const auto imprimir = entradas.indexOf(principal.mnuImprimir);
-    ASSERT_GE(imprimir, 0);
-    EXPECT_EQ(entradas.value(imprimir + 1), principal.mnuExportarPDF);
-    EXPECT_EQ(principal.mnuExportarPDF->text(), Q("&Exportar a PDF..."));
 }
 
 } // namespace
