@@ -59,19 +59,16 @@ protected:
         return colores;
     }
     std::string Ayuda(int fila, int columna) const {
-        return Rejilla()
-            .model()
-            ->index(fila, columna)
-            .data(Qt::ToolTipRole)
-            .toString()
-            .toStdString();
+        const QModelIndex celda = Rejilla().model()->index(fila, columna);
+        return celda.data(Qt::ToolTipRole).toString().toStdString();
     }
 
     std::unique_ptr<frmPonderacion> ventana;
 };
 
 TEST_F(Ponderacion, TheAdapterMergesEachParentOverItsDescendants) {
-    QTableView& g = *Abrir().grdRequerimientos;
+    pruebas::CompararVolcado(Abrir(), "frmPonderacion");
+    QTableView& g = Rejilla();
     ASSERT_EQ(g.model()->columnCount(), 4);
     ASSERT_EQ(g.model()->rowCount(), 7);
     std::string cabeceras;
@@ -155,10 +152,6 @@ TEST_F(Ponderacion, TheDirectMethodOpensOnItsGridAndACancelWritesNothing) {
     ventana->grdRequerimientos_Click(6, 1);
     ventana->grdRequerimientos_DblClick(6, 1);
     EXPECT_EQ(modales.Vistas().size(), 1u);
-}
-
-TEST_F(Ponderacion, TheDumpOfTheOverview) {
-    pruebas::CompararVolcado(Abrir(), "frmPonderacion");
 }
 
 class PonderacionVacia : public pruebas::VentanaPrincipal {
