@@ -5,6 +5,7 @@
 #include "core/reports/comandos_informe.h"
 #include "core/reports/resumen.h"
 #include "modelos_informe.h"
+#include "soporte/acta.h"
 #include "soporte/componentes_etapas.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/prueba_sesion.h"
@@ -34,59 +35,41 @@ TEST(ComandosInforme, ThePrinterDialogLeavesOutTheFilePageNumbersAndSelection) {
     EXPECT_EQ(PeticionImprimirModelo().flags, 0x106);
 }
 
+// Each case: the command and the error's number, with what the error says for the export.
 TEST(ComandosInforme, MessagesOfAFailure) {
-    const struct {
-        Mensaje mensaje;
-        const char* texto;
-        const char* titulo;
-    } casos[] = {
-        {MensajeFalloImprimirModelo(482), "Error 482 al realizar la impresión.",
-         "VADRO PROGRAMADOR: imprimir modelo"},
-        {MensajeFalloImprimirModelo(5), "Error 5 al realizar la impresión.",
-         "VADRO PROGRAMADOR: imprimir modelo"},
-        {MensajeFalloExportarPdf(75, "Error de acceso"),
-         "Error 75 al exportar el informe a PDF: Error de acceso.",
-         "VADRO PROGRAMADOR: exportar a PDF"},
-        {MensajeFalloExportarPdf(61, ""), "Error 61 al exportar el informe a PDF.",
-         "VADRO PROGRAMADOR: exportar a PDF"},
-    };
-    for (const auto& caso : casos) {
-        EXPECT_EQ(caso.mensaje.texto, caso.texto);
-        EXPECT_EQ(caso.mensaje.titulo, caso.titulo);
-        EXPECT_EQ(caso.mensaje.botones, Botones::Aceptar);
-        EXPECT_EQ(caso.mensaje.icono, Icono::Critico);
+    pruebas::Acta acta;
+    acta.iconos = true;
+    for (const pruebas::Caso& caso : pruebas::Casos("informe/mensajes_fallo.txt")) {
+        const int numero = std::stoi(caso.campos.at(1));
+        const Mensaje m = caso.campos[0] == "imprimir"
+                              ? MensajeFalloImprimirModelo(numero)
+                              : MensajeFalloExportarPdf(numero, caso.campos.at(2));
+        MsgBox(m.texto, m.botones, m.icono, m.titulo);
+        acta.Fila(caso.texto, "shown");
     }
+    acta.Comparar("informe/mensajes_fallo.txt");
 }
 
 class ExportarPdf : public pruebas::PruebaSesion {};
 
+// Each case: the model's file and the folder of models; the dialog's folder and file name.
 TEST_F(ExportarPdf, TheDialogStartsBesideTheModelOrInTheFolderOfModels) {
-    const struct {
-        const char* archivo;
-        const char* dirModelos;
-        std::string directorio;
-        const char* nombre;
-    } casos[] = {
-        {"/modelos/puente.vdm", "/otros", "/modelos", "puente.pdf"},
-        {"/modelos/puente.v1.vdc", "", "/modelos", "puente.v1.pdf"},
-        {"", "/otros", "/otros", ""},
-        {"", "", "", ""},
-    };
-    for (const auto& caso : casos) {
-        SCOPED_TRACE(caso.archivo);
-        sesion().modelo.Archivo = caso.archivo;
-        sesion().configuracion.DirModelos = caso.dirModelos;
-        const PeticionDialogo peticion = PeticionExportarPdf(sesion());
-        const std::string directorio =
-            caso.directorio.empty() ? sesion().DirectorioPrograma : caso.directorio;
-        EXPECT_EQ(peticion.directorioInicial, directorio);
-        EXPECT_EQ(peticion.nombreArchivo, caso.nombre);
-        EXPECT_EQ(peticion.tipo, TipoDialogo::Guardar);
-        EXPECT_EQ(peticion.titulo, "Exportar informe a PDF");
-        EXPECT_EQ(peticion.filtro, "Documentos PDF (*.pdf)|*.pdf");
-        EXPECT_EQ(ExtensionDelFiltro(peticion.filtro, peticion.indiceFiltro), ".pdf");
-        EXPECT_NE(peticion.flags & DlgPreguntarSobrescribir, 0);
+    pruebas::Acta acta;
+    acta.sustituciones = {{sesion().DirectorioPrograma, "<programa>"}};
+    PeticionDialogo peticion;
+    for (const pruebas::Caso& caso : pruebas::Casos("informe/dialogo_pdf.txt")) {
+        sesion().modelo.Archivo = caso.campos.at(0);
+        sesion().configuracion.DirModelos = caso.campos.at(1);
+        peticion = PeticionExportarPdf(sesion());
+        acta.Fila(caso.texto,
+                  "'" + peticion.directorioInicial + "' '" + peticion.nombreArchivo + "'");
     }
+    acta.Comparar("informe/dialogo_pdf.txt");
+    EXPECT_EQ(peticion.tipo, TipoDialogo::Guardar);
+    EXPECT_EQ(peticion.titulo, "Exportar informe a PDF");
+    EXPECT_EQ(peticion.filtro, "Documentos PDF (*.pdf)|*.pdf");
+    EXPECT_EQ(ExtensionDelFiltro(peticion.filtro, peticion.indiceFiltro), ".pdf");
+    EXPECT_NE(peticion.flags & DlgPreguntarSobrescribir, 0);
 }
 
 TEST_F(ExportarPdf, TheCommandWritesWhatTheUserChoseOrSaysWhyItCouldNot) {
