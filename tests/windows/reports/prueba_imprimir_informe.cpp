@@ -43,24 +43,6 @@ namespace {
 
 using pruebas::PaginasPdf;
 
-// The part of the model a design window writes, replaced by that of another model.
-void CambiarParte(Modelo& modelo, ParteModelo parte) {
-    switch (parte) {
-    case ParteModelo::Requerimientos: {
-        const Modelo otro = pruebas::ModeloSinNombreNiPesos();
-        modelo.NumRequerimientos = otro.NumRequerimientos;
-        modelo.Requerimientos = otro.Requerimientos;
-        break;
-    }
-    case ParteModelo::Componentes:
-        pruebas::PonerComponentes(modelo, {{"Otro componente", {}}});
-        break;
-    case ParteModelo::Etapas:
-        pruebas::PonerEtapas(modelo, {"Otra etapa"});
-        break;
-    }
-}
-
 int Filas(const QAbstractItemView& vista) {
     int filas = 0;
     std::function<void(const QModelIndex&)> contar = [&](const QModelIndex& padre) {
@@ -81,30 +63,41 @@ protected:
     std::string TextoDelModelo() { return TextoPlano(GenerarInforme(sesion().modelo)); }
 };
 
-TEST_F(InformePrincipal, AcceptingADesignWindowRebuildsTheReportAndRefillsTheSummary) {
+// Each case: a design window, a change of the part it writes, a name the change takes away.
+TEST_F(InformePrincipal, AcceptingADesignWindowRebuildsTheReportTheSummaryAndTheOverview) {
     const struct {
         vadro::Hija diseno;
-        ParteModelo parte;
+        std::function<void(Modelo&)> cambiar;
         const char* nombre;
     } casos[] = {
-        {Hija::Requerimientos, ParteModelo::Requerimientos, "Económico"},
-        {Hija::Componentes, ParteModelo::Componentes, "Estructura"},
-        {Hija::Etapas, ParteModelo::Etapas, "Construcción"},
+        {Hija::Requerimientos,
+         [](Modelo& m) {
+             m.NumRequerimientos = 1;
+             m.Requerimientos.RedimensionarConservando(1);
+         },
+         "Social"},
+        {Hija::Componentes, [](Modelo& m) { pruebas::PonerComponentes(m, {}); }, "Estructura"},
+        {Hija::Etapas, [](Modelo& m) { pruebas::PonerEtapas(m, {}); }, "Construcción"},
     };
     for (const auto& caso : casos) {
         SCOPED_TRACE(caso.nombre);
         sesion().modelo = pruebas::ModeloCompleto();
         // The design window holds its copy of the model; the model then changes under it, and
-        // the report and the summary show the change.
+        // the report, the summary and the overview show the change.
         auto& diseno = dynamic_cast<VentanaDiseno&>(principal.Cargar(caso.diseno));
-        CambiarParte(sesion().modelo, caso.parte);
-        principal.Descargar(Hija::Informe);
-        principal.Descargar(Hija::Resumen);
+        caso.cambiar(sesion().modelo);
+        for (const vadro::Hija hija : {Hija::Informe, Hija::Resumen, Hija::Ponderacion}) {
+            principal.Descargar(hija);
+        }
         frmInforme& informe = Informe();
         auto& resumen = dynamic_cast<frmResumen&>(principal.Cargar(Hija::Resumen));
+        auto& ponderacion = dynamic_cast<frmPonderacion&>(principal.Cargar(Hija::Ponderacion));
+        const auto filas = [&resumen] {
+            return Filas(*resumen.tvwRequerimientos) + Filas(*resumen.tvwComponentes) +
+                   resumen.lstEtapas->count();
+        };
         ASSERT_EQ(Texto().find(caso.nombre), std::string::npos);
-        const int filasAntes = Filas(*resumen.tvwRequerimientos) + Filas(*resumen.tvwComponentes) +
-                               resumen.lstEtapas->count();
+        const int filasAntes = filas();
 
         QTest::mouseClick(diseno.cmdAceptar, Qt::LeftButton);
 
@@ -112,22 +105,12 @@ TEST_F(InformePrincipal, AcceptingADesignWindowRebuildsTheReportAndRefillsTheSum
         EXPECT_EQ(principal.Abierta(Hija::Informe), &informe) << "the same window, rebuilt";
         EXPECT_NE(Texto().find(caso.nombre), std::string::npos);
         EXPECT_EQ(Texto(), TextoDelModelo());
-        const int filasDespues = Filas(*resumen.tvwRequerimientos) +
-                                 Filas(*resumen.tvwComponentes) + resumen.lstEtapas->count();
-        EXPECT_GT(filasDespues, filasAntes) << "the summary shows the accepted part";
+        EXPECT_GT(filas(), filasAntes) << "the summary shows the accepted part";
+        // Coste, Plazo, Durabilidad, Acabado, Atención, Puestos: a row per indicator, five
+        // before the requirements were accepted.
+        EXPECT_EQ(ponderacion.grdRequerimientos->model()->rowCount(), 6);
+        EXPECT_EQ(sesion().FilasPonderacion.size(), 6u);
     }
-}
-
-TEST_F(InformePrincipal, AcceptingTheRequirementsReloadsTheOverviewOfWeights) {
-    auto& diseno = dynamic_cast<VentanaDiseno&>(principal.Cargar(Hija::Requerimientos));
-    CambiarParte(sesion().modelo, ParteModelo::Requerimientos);
-    auto& ponderacion = dynamic_cast<frmPonderacion&>(principal.Cargar(Hija::Ponderacion));
-    const int antes = ponderacion.grdRequerimientos->model()->rowCount();
-    QTest::mouseClick(diseno.cmdAceptar, Qt::LeftButton);
-    // Coste, Plazo, Durabilidad, Acabado, Atención, Puestos: a row per indicator.
-    EXPECT_EQ(ponderacion.grdRequerimientos->model()->rowCount(), 6);
-    EXPECT_NE(antes, 6);
-    EXPECT_EQ(sesion().FilasPonderacion.size(), 6u);
 }
 
 TEST_F(InformePrincipal, ARebuildLeavesTheUsersClipboardAlone) {
