@@ -1,13 +1,13 @@
 #include "core/files/modelo_archivo.h"
 #include "core/reports/informe_modelo.h"
+#include "core/shell/herramientas.h"
 #include "modelos_informe.h"
 #include "soporte/datos.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <sys/wait.h>
+#include <sstream>
 
 namespace vadro {
 namespace {
@@ -64,44 +64,32 @@ TEST(ActualizarPaneles, EachPaneHoldsItsPartAsTheCompleteReportDoes) {
     }
 }
 
-// The built companion, run as a user would.
+// The companion's report command; the shell's tests run the built program itself.
 class InformeHerramientas : public pruebas::PruebaSesion {
 protected:
-    std::pair<int, std::string> Programa(const std::string& argumentos) {
-        const std::string orden =
-            "cd '" + Directorio() + "' && '" VADRO_HERRAMIENTAS "' " + argumentos + " 2> error.txt";
-        FILE* tubo = popen(orden.c_str(), "r");
-        std::string salida;
-        char bloque[4096];
-        std::size_t leidos = 0;
-        while ((leidos = fread(bloque, 1, sizeof bloque, tubo)) > 0) {
-            salida.append(bloque, leidos);
-        }
-        const int estado = pclose(tubo);
-        return {WEXITSTATUS(estado), salida};
+    int Ejecutar(const std::vector<std::string>& argumentos) {
+        std::istringstream entrada;
+        salida.str("");
+        error.str("");
+        return EjecutarHerramientas(argumentos, entrada, salida, error);
     }
+    std::ostringstream salida, error;
 };
 
-TEST_F(InformeHerramientas, PrintsTheReportOfASavedModel) {
+TEST_F(InformeHerramientas, PrintsTheReportOfASavedModelOrSaysWhatIsWrong) {
     Modelo modelo = ModeloCompleto();
     ASSERT_TRUE(GuardarModelo(modelo, Ruta("puente.vdm"), false));
-    const auto [estado, salida] = Programa("informe puente.vdm");
-    EXPECT_EQ(estado, 0) << Contenido(Ruta("error.txt"));
-    EXPECT_EQ(salida, pruebas::Datos("informe/completo.txt", salida))
+    EXPECT_EQ(Ejecutar({"informe", Ruta("puente.vdm")}), 0) << error.str();
+    EXPECT_EQ(salida.str(), pruebas::Datos("informe/completo.txt", salida.str()))
         << "a saved and loaded model reports as the records did";
-}
-
-TEST_F(InformeHerramientas, WrongArgumentsAndMissingFilesFail) {
-    const auto [sinModelo, nada] = Programa("informe");
-    EXPECT_EQ(sinModelo, 2);
-    EXPECT_EQ(nada, "");
-    EXPECT_NE(Contenido(Ruta("error.txt")).find("La orden informe necesita un MODELO."),
+    EXPECT_EQ(Ejecutar({"informe"}), 2);
+    EXPECT_EQ(salida.str(), "");
+    EXPECT_NE(error.str().find("La orden informe necesita un MODELO."), std::string::npos);
+    EXPECT_EQ(Ejecutar({"informe", "no-esta.vdm"}), 2);
+    EXPECT_NE(error.str().find("No se puede leer no-esta.vdm: No se encontró el archivo"),
               std::string::npos);
-    EXPECT_EQ(Programa("informe no-esta.vdm").first, 2);
-    EXPECT_NE(Contenido(Ruta("error.txt"))
-                  .find("No se puede leer no-esta.vdm: No se encontró el archivo"),
-              std::string::npos);
-    EXPECT_NE(Programa("--help").second.find("  informe MODELO "), std::string::npos);
+    Ejecutar({"--help"});
+    EXPECT_NE(salida.str().find("  informe MODELO "), std::string::npos);
 }
 
 } // namespace
