@@ -85,8 +85,10 @@ TEST_F(Informe_, EveryPaneReadsAsTheCoreWritesItsPart) {
     }
 }
 
-// Paints a document on a white image as the pane shows it.
-QImage Pintar(QTextDocument& documento) {
+// Paints a report's document on a white image as the pane shows it.
+QImage Pintar(const Informe& informe) {
+    QTextDocument documento;
+    LlenarDocumento(documento, informe);
     documento.setTextWidth(800);
     const QSizeF tamano = documento.documentLayout()->documentSize();
     QImage imagen(tamano.toSize(), QImage::Format_RGB32);
@@ -113,16 +115,10 @@ bool Rojo(QColor c) {
 TEST_F(Informe_, APictureIsDrawnFromItsFunctionWhenTheDocumentIsPainted) {
     // A model whose only picture is the crossed box: red diagonals appear where it stands;
     // with a drawable function instead, none.
-    Modelo sinFuncion = pruebas::ModeloCon({pruebas::Requerimiento(
-        "R", {pruebas::Criterio("C", {pruebas::Indicador("I", FuncionValor())})})});
-    Modelo conFuncion = pruebas::ModeloCon(
-        {pruebas::Requerimiento("R", {pruebas::Criterio("C", {pruebas::Indicador("I")})})});
-    QTextDocument tachada;
-    LlenarDocumento(tachada, GenerarInforme(sinFuncion));
-    QTextDocument continua;
-    LlenarDocumento(continua, GenerarInforme(conFuncion));
-    const QImage imagenTachada = Pintar(tachada);
-    const QImage imagenContinua = Pintar(continua);
+    const QImage imagenTachada = Pintar(GenerarInforme(pruebas::ModeloCon({pruebas::Requerimiento(
+        "R", {pruebas::Criterio("C", {pruebas::Indicador("I", FuncionValor())})})})));
+    const QImage imagenContinua = Pintar(GenerarInforme(pruebas::ModeloCon(
+        {pruebas::Requerimiento("R", {pruebas::Criterio("C", {pruebas::Indicador("I")})})})));
     const double ancho = TwipsAPuntos(kAnchoGraficaInforme, DpiTexto());
     // Two diagonals of about the picture's width each.
     EXPECT_GT(Pixeles(imagenTachada, Rojo), ancho);

@@ -36,9 +36,6 @@ protected:
     QPoint Centro(int fila, int columna) const {
         return Rejilla().visualRect(Rejilla().model()->index(fila, columna)).center();
     }
-    void Pulsar(int fila, int columna) {
-        QTest::mouseClick(Rejilla().viewport(), Qt::LeftButton, {}, Centro(fila, columna));
-    }
     // As the system delivers a double click: press, release, press, double click, release.
     void DoblePulsar(int fila, int columna) {
         QWidget* area = Rejilla().viewport();
