@@ -41,13 +41,12 @@ inline Modelo ModeloSinNombreNiPesos() {
         {Requerimiento("Ambiental", {Criterio("Ruido", {Indicador("Decibelios")},
                                               {Subcriterio("Nocturno", {Indicador("Horas")})})}),
          Requerimiento("Vacío", {})});
-    m.Requerimientos(1).Peso = ValorLibre();
-    m.Requerimientos(2).Peso = ValorLibre();
     NodoCriterio& ruido = m.Requerimientos(1).Criterios(1);
-    ruido.Peso = ValorLibre();
-    ruido.Indicadores(1).Peso = ValorLibre();
-    ruido.Subcriterios(1).Peso = ValorLibre();
-    ruido.Subcriterios(1).Indicadores(1).Peso = ValorLibre();
+    for (CabeceraNodo* nodo : std::initializer_list<CabeceraNodo*>{
+             &m.Requerimientos(1), &m.Requerimientos(2), &ruido, &ruido.Indicadores(1),
+             &ruido.Subcriterios(1), &ruido.Subcriterios(1).Indicadores(1)}) {
+        nodo->Peso = ValorLibre();
+    }
     m.NumComponentes = ValorLibre();
     m.Componentes.Borrar();
     m.NumEtapas = 0;
