@@ -4,9 +4,11 @@
 #include "core/core/error_ejecucion.h"
 #include "core/reports/comandos_informe.h"
 #include "core/reports/resumen.h"
+#include "core/shell/comandos_modelo.h"
 #include "modelos_informe.h"
 #include "soporte/acta.h"
 #include "soporte/componentes_etapas.h"
+#include "soporte/datos.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/prueba_sesion.h"
 
@@ -119,39 +121,29 @@ std::string Texto(const Arbol& arbol) {
     return texto;
 }
 
-TEST(ResumenModelo, ComponentsKeyedInBracketsWithTheirImagesAllExpanded) {
-    Modelo modelo = pruebas::ModeloCompleto();
-    Arbol arbol;
-    arbol.Añadir(nullptr, Relacion::UltimoHijo, "viejo", "lo de antes", 1);
-    LlenarResumenComponentes(arbol, modelo);
-    EXPECT_EQ(Texto(arbol), "Co1 (Co1) Estructura 7 +\n"
-                            "  Sc1Co1 (Sc1Co1) Hormigón 8 +\n"
-                            "  Sc2Co1 (Sc2Co1) Acero 8 +\n"
-                            "Co2 (Co2) Accesos 7 +\n");
-    pruebas::PonerComponentes(modelo, {});
-    LlenarResumenComponentes(arbol, modelo);
-    EXPECT_TRUE(arbol.Vacio());
-}
+// The summary of a full model: its trees keyed, with their images, every node expanded, the
+// model's name in lower case at the root, no weights; then its stages. The same trees filled
+// from an empty model hold its root alone.
+TEST(ResumenModelo, TreesAndStagesOfAFullModelAndOfAnEmptyOne) {
+    Arbol requerimientos, componentes;
+    componentes.Añadir(nullptr, Relacion::UltimoHijo, "viejo", "lo de antes", 1);
+    const Modelo modelo = pruebas::ModeloCompleto();
+    LlenarResumenRequerimientos(requerimientos, modelo);
+    LlenarResumenComponentes(componentes, modelo);
+    std::string texto = Texto(requerimientos) + "--\n" + Texto(componentes) + "--\n";
+    for (const std::string& etapa : LineasResumenEtapas(modelo)) {
+        texto += etapa + "\n";
+    }
+    EXPECT_EQ(texto, pruebas::Datos("resumen/arboles.txt", texto));
 
-TEST(ResumenModelo, RequirementsUnderTheModelWithKeysAndNoWeights) {
-    Modelo modelo = pruebas::ModeloSinNombreNiPesos();
-    modelo.Nombre = "ÉBANO Y Cía";
-    modelo.Requerimientos(1).Peso = 40;
-    Arbol arbol;
-    LlenarResumenRequerimientos(arbol, modelo);
-    const std::string texto = Texto(arbol);
-    EXPECT_EQ(texto.substr(0, texto.find('\n')), "M Modelo ébano y cía 5 +");
-    EXPECT_NE(texto.find("R1 (R1) Ambiental 1 +"), std::string::npos) << texto;
-    EXPECT_NE(texto.find("I1S1C1R1 (I1S1C1R1) Horas 4"), std::string::npos) << texto;
-    EXPECT_EQ(texto.find('%'), std::string::npos);
-}
-
-TEST(ResumenModelo, StagesOneLineEach) {
-    Modelo modelo = pruebas::ModeloCompleto();
-    EXPECT_EQ(LineasResumenEtapas(modelo),
-              (std::vector<std::string>{"Proyecto", "Construcción", "Explotación"}));
-    pruebas::PonerEtapas(modelo, {});
-    EXPECT_TRUE(LineasResumenEtapas(modelo).empty());
+    Modelo vacio;
+    InicializarModelo(vacio);
+    vacio.Nombre = "Presa del Ebro";
+    LlenarResumenRequerimientos(requerimientos, vacio);
+    LlenarResumenComponentes(componentes, vacio);
+    EXPECT_EQ(Texto(requerimientos), "M Modelo presa del ebro 5 +\n");
+    EXPECT_TRUE(componentes.Vacio());
+    EXPECT_TRUE(LineasResumenEtapas(vacio).empty());
 }
 
 } // namespace

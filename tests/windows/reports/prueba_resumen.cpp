@@ -75,15 +75,6 @@ TEST_F(Resumen, AFullModelKeyedExpandedWithIconsAndNoWeights) {
     EXPECT_EQ(texto.find('%'), std::string::npos);
 }
 
-TEST_F(Resumen, AnEmptyModelShowsItsRootAlone) {
-    Modelo vacio;
-    InicializarModelo(vacio);
-    vacio.Nombre = "Presa del Ebro";
-    const std::string texto = Todo(Abrir(vacio));
-    EXPECT_EQ(texto, "[Arbol de requerimientos]\n* Modelo presa del ebro\n"
-                     "[Arbol de componentes]\n[Etapas del ciclo de vida]\n");
-}
-
 TEST_F(Resumen, APaneIsRefilledWhenItsPartChanges) {
     frmResumen& resumen = Abrir(pruebas::ModeloCompleto());
     const std::string antes = Todo(resumen);
