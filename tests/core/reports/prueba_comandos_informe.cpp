@@ -15,21 +15,18 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <tuple>
 
 namespace vadro {
 namespace {
 
 TEST(TwipsAPuntos, AnInchIs1440Twips) {
-    const struct {
-        int twips;
-        double dpi;
-        double puntos;
-    } casos[] = {
+    const std::tuple<int, double, double> casos[] = {
         {1440, 96, 96},     {2000, 96, 133.333333}, {350, 96, 23.333333}, {0, 1200, 0},
         {1440, 1200, 1200}, {1000, 72, 50},         {2880, 120, 240},
     };
-    for (const auto& caso : casos) {
-        EXPECT_NEAR(TwipsAPuntos(caso.twips, caso.dpi), caso.puntos, 1e-6) << caso.twips;
+    for (const auto& [twips, dpi, puntos] : casos) {
+        EXPECT_NEAR(TwipsAPuntos(twips, dpi), puntos, 1e-6) << twips;
     }
 }
 

@@ -62,13 +62,10 @@ TEST_F(ImpresionLista, APageOfA4HoldsTheLinesOfItsHeightAndTheLinesFillPageAfter
     EXPECT_LE(n, 65);
     EXPECT_LT(ancho, n) << "a landscape page is lower";
     EXPECT_GE(ancho, 28);
-    struct Caso {
-        int lineas;
-        int paginas;
-    };
-    for (const Caso caso :
-         {Caso{0, 1}, Caso{1, 1}, Caso{n, 1}, Caso{n + 1, 2}, Caso{3 * n, 3}, Caso{3 * n + 1, 4}}) {
-        EXPECT_EQ(Imprimir(caso.lineas), caso.paginas) << caso.lineas << " lines";
+    const std::pair<int, int> casos[] = {{0, 1},     {1, 1},     {n, 1},
+                                         {n + 1, 2}, {3 * n, 3}, {3 * n + 1, 4}};
+    for (const auto& [lineas, paginas] : casos) {
+        EXPECT_EQ(Imprimir(lineas), paginas) << lineas << " lines";
     }
     EXPECT_EQ(Imprimir(n + 1, true), 2 + (n + 1 > 2 * ancho ? 1 : 0));
 }

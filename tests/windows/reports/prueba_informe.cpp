@@ -140,29 +140,23 @@ TEST_F(Informe_, RunsTakeTheReportFontAndLinesTheIndentOfTheirLevel) {
     const QString familia = QFontInfo(letraTitulo.font()).family();
     EXPECT_TRUE(familia == Q("Verdana") || familia == Q("DejaVu Sans")) << ACadena(familia);
 
-    // The levels of the requirements tree, each in its twips.
-    const struct {
-        const char* comienzo;
-        int twips;
-        bool negrita;
-    } casos[] = {
+    // The levels of the requirements tree, each in its twips, and a heading in bold.
+    const std::tuple<const char*, int, bool> casos[] = {
         {"(R1) ", 0, false},
         {"(C1R1) ", 350, false},
         {"(I1C1R1) ", 700, false},
-        {"(S1C2R1) ", 700, false},
         {"(I1S1C2R1) ", 1050, false},
         {"INDICADORES OPTATIVOS", 1290, false},
         {"Arbol de requerimientos", 0, true},
     };
-    for (const auto& caso : casos) {
-        SCOPED_TRACE(caso.comienzo);
-        const QTextBlock bloque = documento.find(Q(caso.comienzo)).block();
-        ASSERT_TRUE(bloque.isValid());
-        EXPECT_NEAR(bloque.blockFormat().leftMargin(), TwipsAPuntos(caso.twips, DpiTexto()), 1e-9);
-        EXPECT_NEAR(bloque.blockFormat().rightMargin(),
-                    TwipsAPuntos(caso.negrita ? 0 : 50, DpiTexto()), 1e-9);
-        const QTextCursor encontrado = documento.find(Q(caso.comienzo));
-        EXPECT_EQ(encontrado.charFormat().fontWeight(), caso.negrita ? QFont::Bold : QFont::Normal);
+    for (const auto& [comienzo, twips, negrita] : casos) {
+        SCOPED_TRACE(comienzo);
+        const QTextCursor encontrado = documento.find(Q(comienzo));
+        ASSERT_TRUE(encontrado.block().isValid());
+        const QTextBlockFormat formato = encontrado.block().blockFormat();
+        EXPECT_NEAR(formato.leftMargin(), TwipsAPuntos(twips, DpiTexto()), 1e-9);
+        EXPECT_NEAR(formato.rightMargin(), TwipsAPuntos(negrita ? 0 : 50, DpiTexto()), 1e-9);
+        EXPECT_EQ(encontrado.charFormat().fontWeight(), negrita ? QFont::Bold : QFont::Normal);
     }
     // An entry of a tree opens with its icon: an image before the key.
     const QTextBlock requerimiento = documento.find(Q("(R1) ")).block();

@@ -1,7 +1,5 @@
-#include "core/files/modelo_archivo.h"
 #include "core/weighting/arbol_ponderado.h"
 #include "sesion_pesos.h"
-#include "soporte/datos.h"
 #include "soporte/volcado_ventana.h"
 #include "windows/shell/ventana_principal.h"
 #include "windows/weighting/frmPonderacion.h"
@@ -11,9 +9,6 @@
 #include <QRadioButton>
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
 
 namespace vadro {
 namespace {
@@ -69,14 +64,12 @@ TEST_F(Ponderacion, TheAdapterMergesEachParentOverItsDescendants) {
     ASSERT_EQ(g.model()->columnCount(), 4);
     ASSERT_EQ(g.model()->rowCount(), 7);
     EXPECT_EQ(g.model()->headerData(2, Qt::Horizontal).toString(), QStringLiteral("Subcriterios"));
-    struct Union {
-        int fila, columna, filas;
-    };
-    for (const Union& u :
-         {Union{0, 0, 6}, Union{6, 0, 1}, Union{0, 1, 3}, Union{3, 1, 2}, Union{5, 1, 1},
-          Union{0, 2, 2}, Union{2, 2, 1}, Union{3, 2, 1}, Union{0, 3, 1}}) {
-        EXPECT_EQ(g.rowSpan(u.fila, u.columna), u.filas) << u.fila << "," << u.columna;
-        EXPECT_EQ(g.columnSpan(u.fila, u.columna), 1);
+    const std::tuple<int, int, int> uniones[] = {{0, 0, 6}, {6, 0, 1}, {0, 1, 3},
+                                                 {3, 1, 2}, {5, 1, 1}, {0, 2, 2},
+                                                 {2, 2, 1}, {3, 2, 1}, {0, 3, 1}};
+    for (const auto& [fila, columna, filas] : uniones) {
+        EXPECT_EQ(g.rowSpan(fila, columna), filas) << fila << "," << columna;
+        EXPECT_EQ(g.columnSpan(fila, columna), 1);
     }
     // What each cell shows, colours and selects is the core's table of the overview.
     EXPECT_EQ(Celda(g, 0, 3), "(I1S1C1R1) Hormigón\nPeso: 25.00 %");
@@ -104,18 +97,6 @@ TEST_F(Ponderacion, ADoubleClickWeighsTheSetAndItsCellsComeBackWithTheirWeights)
     EXPECT_EQ(Colores(3), "bbbbbbb") << "the light red is gone";
     EXPECT_EQ(Ayuda(4, 3), "Peso global: 6.00 %");
     EXPECT_TRUE(sesion().modelo.Modificado);
-
-    // The model as a save writes it: the set's lines.
-    const std::string ruta = Ruta("pesos.vdm");
-    ASSERT_TRUE(GuardarModelo(sesion().modelo, ruta, true));
-    std::istringstream texto(Contenido(ruta));
-    std::string linea, lineas;
-    while (std::getline(texto, linea)) {
-        if (linea.rfind("REQ_I", 0) == 0 && linea.find("C2R1_") != std::string::npos) {
-            lineas += linea + "\n";
-        }
-    }
-    EXPECT_EQ(lineas, pruebas::Datos("ponderacion/conjunto_guardado.txt", lineas));
 }
 
 TEST_F(Ponderacion, TheDirectMethodOpensOnItsGridAndACancelWritesNothing) {
