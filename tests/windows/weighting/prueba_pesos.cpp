@@ -17,15 +17,11 @@ namespace {
 
 using pruebas::Fraccion;
 
-const QColor kBlanco(255, 255, 255);
-const QColor kRojoClaro(255, 192, 192);
 const QColor kRojo(255, 0, 0);
 const QColor kVerde(0, 255, 0);
 const QColor kAmarillo(255, 255, 192);
 const std::string kAvisoAhp = "La matriz de pesos AHP ha sido modificada y se perderán los "
                               "valores introducidos.\nDesea continuar?";
-const std::string kIncompleta =
-    "La matriz de ponderación en modo directo no está completa. Desea continuar?";
 
 // The three criteria "Agua", "Energía", "Coste" of one requirement, never weighted.
 class VentanaPesos : public pruebas::SesionPesos {
@@ -202,7 +198,9 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     // The third score was typed in the percentage column: its score cell still shows nothing,
     // so the list is incomplete. Yes writes; the matrix was typed in, so the first warning
     // follows, and No keeps the window with the data written.
-    mensajes.Esperar("VADRO PROGRAMADOR", kIncompleta, Respuesta::Si);
+    mensajes.Esperar("VADRO PROGRAMADOR",
+                     "La matriz de ponderación en modo directo no está completa. Desea continuar?",
+                     Respuesta::Si);
     mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos", kAvisoAhp, Respuesta::No);
     w.cmdAceptar->click();
     EXPECT_TRUE(w.isVisible());
