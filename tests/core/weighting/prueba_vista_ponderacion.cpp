@@ -101,13 +101,11 @@ TEST_F(VistaPonderacionPrueba, ANodeShowsItsKeyNameAndWeightOnlyWhenItHasOne) {
 // along its path (60 % x 50 % x 40 % x 25 % = 3 %; the criterion's own indicator skips the
 // empty column).
 TEST_F(VistaPonderacionPrueba, WhatEachCellSelectsWeighsAndShowsAsGlobalWeight) {
-    const std::pair<int, int> celdas[] = {
-        {0, 0}, {3, 0}, {4, 0}, {6, 0}, {0, 1}, {2, 1}, {5, 1}, {6, 1}, {0, 2}, {1, 2},
-        {2, 2}, {3, 2}, {5, 2}, {0, 3}, {1, 3}, {2, 3}, {3, 3}, {4, 3}, {5, 3},
-    };
     pruebas::Acta acta;
     acta.iconos = true;
-    for (const auto& [fila, columna] : celdas) {
+    for (const pruebas::Caso& caso : pruebas::Casos("ponderacion/celdas.txt")) {
+        const std::string& celda = caso.campos.at(1);
+        const int fila = std::stoi(celda), columna = std::stoi(celda.substr(celda.find(',') + 1));
         const auto conjunto = SeleccionarConjunto(vista, fila, columna);
         EXPECT_EQ(ConjuntoDeCelda(vista, fila, columna), conjunto) << fila << "," << columna;
         std::string texto = "no set";
@@ -123,13 +121,13 @@ TEST_F(VistaPonderacionPrueba, WhatEachCellSelectsWeighsAndShowsAsGlobalWeight) 
         } else {
             texto += " nothing";
         }
-        acta.Fila("cell " + std::to_string(fila) + "," + std::to_string(columna),
-                  texto + "; '" + TextoPesoGlobal(modelo, vista, fila, columna) + "'");
+        acta.Fila(caso.texto, texto + "; '" + TextoPesoGlobal(modelo, vista, fila, columna) + "'");
     }
     acta.Comparar("ponderacion/celdas.txt");
     modelo.Requerimientos(1).Peso = ValorLibre();
     EXPECT_EQ(TextoPesoGlobal(modelo, vista, 0, 3), "") << "a missing weight up the path";
 }
+
 TEST_F(VistaPonderacionPrueba, RebuildingASetTakesItsNewWeightsAndColours) {
     const SeleccionConjunto conjunto{3, 3, 4};
     NodoCriterio& plazo = modelo.Requerimientos(1).Criterios(2);
