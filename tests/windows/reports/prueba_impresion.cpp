@@ -38,19 +38,18 @@ protected:
     }
     int ImprimirEn(const QAbstractItemView& lista, bool apaisado = false) {
         const std::string ruta = Ruta("lista" + std::to_string(++impresiones) + ".pdf");
-        {
-            QPdfWriter pdf(Q(ruta));
-            pdf.setPageSize(QPageSize(QPageSize::A4));
-            pdf.setPageOrientation(apaisado ? QPageLayout::Landscape : QPageLayout::Portrait);
-            ImprimirLista(lista, pdf);
-        }
+        ImprimirLista(lista, *A4(ruta, apaisado));
         return PaginasPdf(ruta);
     }
     int PorPagina(bool apaisado = false) {
-        QPdfWriter pdf(Q(Ruta("medida.pdf")));
-        pdf.setPageSize(QPageSize(QPageSize::A4));
-        pdf.setPageOrientation(apaisado ? QPageLayout::Landscape : QPageLayout::Portrait);
-        return LineasPorPagina(pdf);
+        return LineasPorPagina(*A4(Ruta("medida.pdf"), apaisado));
+    }
+    // A PDF file of A4 pages, written out when it goes.
+    static std::unique_ptr<QPdfWriter> A4(const std::string& ruta, bool apaisado) {
+        auto pdf = std::make_unique<QPdfWriter>(Q(ruta));
+        pdf->setPageSize(QPageSize(QPageSize::A4));
+        pdf->setPageOrientation(apaisado ? QPageLayout::Landscape : QPageLayout::Portrait);
+        return pdf;
     }
     int impresiones = 0;
 };
