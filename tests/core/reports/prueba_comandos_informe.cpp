@@ -4,29 +4,29 @@
 #include "core/core/error_ejecucion.h"
 #include "core/reports/comandos_informe.h"
 #include "core/reports/resumen.h"
+#include "core/shell/comandos_modelo.h"
 #include "modelos_informe.h"
+#include "soporte/acta.h"
 #include "soporte/componentes_etapas.h"
+#include "soporte/datos.h"
 #include "soporte/guion_dialogos.h"
 #include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <tuple>
 
 namespace vadro {
 namespace {
 
 TEST(TwipsAPuntos, AnInchIs1440Twips) {
-    const struct {
-        int twips;
-        double dpi;
-        double puntos;
-    } casos[] = {
+    const std::tuple<int, double, double> casos[] = {
         {1440, 96, 96},     {2000, 96, 133.333333}, {350, 96, 23.333333}, {0, 1200, 0},
         {1440, 1200, 1200}, {1000, 72, 50},         {2880, 120, 240},
     };
-    for (const auto& caso : casos) {
-        EXPECT_NEAR(TwipsAPuntos(caso.twips, caso.dpi), caso.puntos, 1e-6) << caso.twips;
+    for (const auto& [twips, dpi, puntos] : casos) {
+        EXPECT_NEAR(TwipsAPuntos(twips, dpi), puntos, 1e-6) << twips;
     }
 }
 
@@ -34,59 +34,41 @@ TEST(ComandosInforme, ThePrinterDialogLeavesOutTheFilePageNumbersAndSelection) {
     EXPECT_EQ(PeticionImprimirModelo().flags, 0x106);
 }
 
+// Each case: the command and the error's number, with what the error says for the export.
 TEST(ComandosInforme, MessagesOfAFailure) {
-    const struct {
-        Mensaje mensaje;
-        const char* texto;
-        const char* titulo;
-    } casos[] = {
-        {MensajeFalloImprimirModelo(482), "Error 482 al realizar la impresión.",
-         "VADRO PROGRAMADOR: imprimir modelo"},
-        {MensajeFalloImprimirModelo(5), "Error 5 al realizar la impresión.",
-         "VADRO PROGRAMADOR: imprimir modelo"},
-        {MensajeFalloExportarPdf(75, "Error de acceso"),
-         "Error 75 al exportar el informe a PDF: Error de acceso.",
-         "VADRO PROGRAMADOR: exportar a PDF"},
-        {MensajeFalloExportarPdf(61, ""), "Error 61 al exportar el informe a PDF.",
-         "VADRO PROGRAMADOR: exportar a PDF"},
-    };
-    for (const auto& caso : casos) {
-        EXPECT_EQ(caso.mensaje.texto, caso.texto);
-        EXPECT_EQ(caso.mensaje.titulo, caso.titulo);
-        EXPECT_EQ(caso.mensaje.botones, Botones::Aceptar);
-        EXPECT_EQ(caso.mensaje.icono, Icono::Critico);
+    pruebas::Acta acta;
+    acta.iconos = true;
+    for (const pruebas::Caso& caso : pruebas::Casos("informe/mensajes_fallo.txt")) {
+        const int numero = std::stoi(caso.campos.at(1));
+        const Mensaje m = caso.campos[0] == "imprimir"
+                              ? MensajeFalloImprimirModelo(numero)
+                              : MensajeFalloExportarPdf(numero, caso.campos.at(2));
+        MsgBox(m.texto, m.botones, m.icono, m.titulo);
+        acta.Fila(caso.texto, "shown");
     }
+    acta.Comparar("informe/mensajes_fallo.txt");
 }
 
 class ExportarPdf : public pruebas::PruebaSesion {};
 
+// Each case: the model's file and the folder of models; the dialog's folder and file name.
 TEST_F(ExportarPdf, TheDialogStartsBesideTheModelOrInTheFolderOfModels) {
-    const struct {
-        const char* archivo;
-        const char* dirModelos;
-        std::string directorio;
-        const char* nombre;
-    } casos[] = {
-        {"/modelos/puente.vdm", "/otros", "/modelos", "puente.pdf"},
-        {"/modelos/puente.v1.vdc", "", "/modelos", "puente.v1.pdf"},
-        {"", "/otros", "/otros", ""},
-        {"", "", "", ""},
-    };
-    for (const auto& caso : casos) {
-        SCOPED_TRACE(caso.archivo);
-        sesion().modelo.Archivo = caso.archivo;
-        sesion().configuracion.DirModelos = caso.dirModelos;
-        const PeticionDialogo peticion = PeticionExportarPdf(sesion());
-        const std::string directorio =
-            caso.directorio.empty() ? sesion().DirectorioPrograma : caso.directorio;
-        EXPECT_EQ(peticion.directorioInicial, directorio);
-        EXPECT_EQ(peticion.nombreArchivo, caso.nombre);
-        EXPECT_EQ(peticion.tipo, TipoDialogo::Guardar);
-        EXPECT_EQ(peticion.titulo, "Exportar informe a PDF");
-        EXPECT_EQ(peticion.filtro, "Documentos PDF (*.pdf)|*.pdf");
-        EXPECT_EQ(ExtensionDelFiltro(peticion.filtro, peticion.indiceFiltro), ".pdf");
-        EXPECT_NE(peticion.flags & DlgPreguntarSobrescribir, 0);
+    pruebas::Acta acta;
+    acta.sustituciones = {{sesion().DirectorioPrograma, "<programa>"}};
+    PeticionDialogo peticion;
+    for (const pruebas::Caso& caso : pruebas::Casos("informe/dialogo_pdf.txt")) {
+        sesion().modelo.Archivo = caso.campos.at(0);
+        sesion().configuracion.DirModelos = caso.campos.at(1);
+        peticion = PeticionExportarPdf(sesion());
+        acta.Fila(caso.texto,
+                  "'" + peticion.directorioInicial + "' '" + peticion.nombreArchivo + "'");
     }
+    acta.Comparar("informe/dialogo_pdf.txt");
+    EXPECT_EQ(peticion.tipo, TipoDialogo::Guardar);
+    EXPECT_EQ(peticion.titulo, "Exportar informe a PDF");
+    EXPECT_EQ(peticion.filtro, "Documentos PDF (*.pdf)|*.pdf");
+    EXPECT_EQ(ExtensionDelFiltro(peticion.filtro, peticion.indiceFiltro), ".pdf");
+    EXPECT_NE(peticion.flags & DlgPreguntarSobrescribir, 0);
 }
 
 TEST_F(ExportarPdf, TheCommandWritesWhatTheUserChoseOrSaysWhyItCouldNot) {
@@ -136,39 +118,29 @@ std::string Texto(const Arbol& arbol) {
     return texto;
 }
 
-TEST(ResumenModelo, ComponentsKeyedInBracketsWithTheirImagesAllExpanded) {
-    Modelo modelo = pruebas::ModeloCompleto();
-    Arbol arbol;
-    arbol.Añadir(nullptr, Relacion::UltimoHijo, "viejo", "lo de antes", 1);
-    LlenarResumenComponentes(arbol, modelo);
-    EXPECT_EQ(Texto(arbol), "Co1 (Co1) Estructura 7 +\n"
-                            "  Sc1Co1 (Sc1Co1) Hormigón 8 +\n"
-                            "  Sc2Co1 (Sc2Co1) Acero 8 +\n"
-                            "Co2 (Co2) Accesos 7 +\n");
-    pruebas::PonerComponentes(modelo, {});
-    LlenarResumenComponentes(arbol, modelo);
-    EXPECT_TRUE(arbol.Vacio());
-}
+// The summary of a full model: its trees keyed, with their images, every node expanded, the
+// model's name in lower case at the root, no weights; then its stages. The same trees filled
+// from an empty model hold its root alone.
+TEST(ResumenModelo, TreesAndStagesOfAFullModelAndOfAnEmptyOne) {
+    Arbol requerimientos, componentes;
+    componentes.Añadir(nullptr, Relacion::UltimoHijo, "viejo", "lo de antes", 1);
+    const Modelo modelo = pruebas::ModeloCompleto();
+    LlenarResumenRequerimientos(requerimientos, modelo);
+    LlenarResumenComponentes(componentes, modelo);
+    std::string texto = Texto(requerimientos) + "--\n" + Texto(componentes) + "--\n";
+    for (const std::string& etapa : LineasResumenEtapas(modelo)) {
+        texto += etapa + "\n";
+    }
+    EXPECT_EQ(texto, pruebas::Datos("resumen/arboles.txt", texto));
 
-TEST(ResumenModelo, RequirementsUnderTheModelWithKeysAndNoWeights) {
-    Modelo modelo = pruebas::ModeloSinNombreNiPesos();
-    modelo.Nombre = "ÉBANO Y Cía";
-    modelo.Requerimientos(1).Peso = 40;
-    Arbol arbol;
-    LlenarResumenRequerimientos(arbol, modelo);
-    const std::string texto = Texto(arbol);
-    EXPECT_EQ(texto.substr(0, texto.find('\n')), "M Modelo ébano y cía 5 +");
-    EXPECT_NE(texto.find("R1 (R1) Ambiental 1 +"), std::string::npos) << texto;
-    EXPECT_NE(texto.find("I1S1C1R1 (I1S1C1R1) Horas 4"), std::string::npos) << texto;
-    EXPECT_EQ(texto.find('%'), std::string::npos);
-}
-
-TEST(ResumenModelo, StagesOneLineEach) {
-    Modelo modelo = pruebas::ModeloCompleto();
-    EXPECT_EQ(LineasResumenEtapas(modelo),
-              (std::vector<std::string>{"Proyecto", "Construcción", "Explotación"}));
-    pruebas::PonerEtapas(modelo, {});
-    EXPECT_TRUE(LineasResumenEtapas(modelo).empty());
+    Modelo vacio;
+    InicializarModelo(vacio);
+    vacio.Nombre = "Presa del Ebro";
+    LlenarResumenRequerimientos(requerimientos, vacio);
+    LlenarResumenComponentes(componentes, vacio);
+    EXPECT_EQ(Texto(requerimientos), "M Modelo presa del ebro 5 +\n");
+    EXPECT_TRUE(componentes.Vacio());
+    EXPECT_TRUE(LineasResumenEtapas(vacio).empty());
 }
 
 } // namespace

@@ -1,9 +1,11 @@
 // How the rows of a printed list fall on its pages.
 
 #include "core/reports/impresion.h"
+#include "soporte/acta.h"
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -18,39 +20,25 @@ std::string Texto(const std::vector<PaginaLista>& paginas) {
     return texto;
 }
 
-std::vector<int> Filas(int cuantas, int altura = 1) {
-    return std::vector<int>(static_cast<std::size_t>(cuantas), altura);
-}
-
+// Each case: the heights of the rows ("50x1" for fifty rows of one line), the lines of a page,
+// whether the headings take a line of every page, what the case shows; then the pages as
+// [first row + rows].
 TEST(PaginarLista, RowsFillPagesInOrderAndNoneIsLostOrRepeated) {
-    struct Caso {
-        const char* nombre;
+    pruebas::Acta acta;
+    for (const pruebas::Caso& caso : pruebas::Casos("informe/paginas_lista.txt")) {
         std::vector<int> alturas;
-        int lineas;
-        bool cabeceras;
-        const char* paginas;
-    };
-    const Caso casos[] = {
-        {"no rows: one blank page", {}, 50, false, "[0+0]"},
-        {"no rows with headings: one page of headings", {}, 50, true, "[0+0]"},
-        {"one row", Filas(1), 50, false, "[0+1]"},
-        {"a full page", Filas(50), 50, false, "[0+50]"},
-        {"one over a full page", Filas(51), 50, false, "[0+50][50+1]"},
-        {"three full pages", Filas(150), 50, false, "[0+50][50+50][100+50]"},
-        {"the headings take a line of every page", Filas(50), 50, true, "[0+49][49+1]"},
-        {"headings on every page", Filas(98), 50, true, "[0+49][49+49]"},
-        {"wrapped rows take their lines", {2, 2, 1}, 5, false, "[0+3]"},
-        {"a wrapped row that does not fit goes over whole", {2, 2, 2}, 5, false, "[0+2][2+1]"},
-        {"a row taller than a page has a page of its own", {7, 1, 1}, 5, false, "[0+1][1+2]"},
-        {"a row after a tall one starts a page", {1, 7, 1}, 5, false, "[0+1][1+1][2+1]"},
-        {"a page too small still takes a row", Filas(3), 1, true, "[0+1][1+1][2+1]"},
-        {"no lines at all", Filas(2), 0, false, "[0+1][1+1]"},
-        {"a row of no height takes one line", {0, 0, 0}, 2, false, "[0+2][2+1]"},
-    };
-    for (const Caso& caso : casos) {
-        EXPECT_EQ(Texto(PaginarLista(caso.alturas, caso.lineas, caso.cabeceras)), caso.paginas)
-            << caso.nombre;
+        std::istringstream filas(caso.campos.at(0));
+        for (std::string altura; filas >> altura;) {
+            const std::size_t x = altura.find('x');
+            const int veces = x == std::string::npos ? 1 : std::stoi(altura.substr(0, x));
+            alturas.insert(alturas.end(), static_cast<std::size_t>(veces),
+                           std::stoi(altura.substr(x == std::string::npos ? 0 : x + 1)));
+        }
+        const bool cabeceras = caso.campos.at(2) == "headings";
+        acta.Fila(caso.texto,
+                  Texto(PaginarLista(alturas, std::stoi(caso.campos.at(1)), cabeceras)));
     }
+    acta.Comparar("informe/paginas_lista.txt");
 }
 
 TEST(PaginarLista, TheReportsMarginsAreThoseOfThePrintCommandInMillimetres) {

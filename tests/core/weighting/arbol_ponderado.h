@@ -8,26 +8,24 @@
 
 namespace vadro::pruebas {
 
+// Each node of a list gets its position key: its letter and number before its parent's key.
+template <typename Nodo>
+void PonerClaves(Arreglo<Nodo>& nodos, const char* letra, const std::string& padre) {
+    for (int k = 1; k <= nodos.Tamano(); ++k) {
+        nodos(k).Clave = Unir({letra, std::to_string(k), padre});
+    }
+}
+
 // Every node of the model gets its position key, as a loaded model has them.
 inline void PonerClaves(Modelo& modelo) {
-    for (int r = 1; r <= modelo.Requerimientos.Tamano(); ++r) {
-        NodoRequerimiento& req = modelo.Requerimientos(r);
-        const std::string kr = Unir({"R", std::to_string(r)});
-        req.Clave = kr;
-        for (int c = 1; c <= req.Criterios.Tamano(); ++c) {
-            NodoCriterio& crit = req.Criterios(c);
-            const std::string kc = Unir({"C", std::to_string(c), kr});
-            crit.Clave = kc;
-            for (int i = 1; i <= crit.Indicadores.Tamano(); ++i) {
-                crit.Indicadores(i).Clave = Unir({"I", std::to_string(i), kc});
-            }
-            for (int s = 1; s <= crit.Subcriterios.Tamano(); ++s) {
-                NodoSubcriterio& sub = crit.Subcriterios(s);
-                const std::string ks = Unir({"S", std::to_string(s), kc});
-                sub.Clave = ks;
-                for (int i = 1; i <= sub.Indicadores.Tamano(); ++i) {
-                    sub.Indicadores(i).Clave = Unir({"I", std::to_string(i), ks});
-                }
+    PonerClaves(modelo.Requerimientos, "R", "");
+    for (NodoRequerimiento& req : modelo.Requerimientos) {
+        PonerClaves(req.Criterios, "C", req.Clave);
+        for (NodoCriterio& crit : req.Criterios) {
+            PonerClaves(crit.Indicadores, "I", crit.Clave);
+            PonerClaves(crit.Subcriterios, "S", crit.Clave);
+            for (NodoSubcriterio& sub : crit.Subcriterios) {
+                PonerClaves(sub.Indicadores, "I", sub.Clave);
             }
         }
     }

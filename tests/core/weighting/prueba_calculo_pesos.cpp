@@ -1,6 +1,7 @@
 #include "core/core/formato_numero.h"
 #include "core/weighting/calculo_pesos.h"
 #include "referencia_ahp.h"
+#include "soporte/acta.h"
 
 #include <gtest/gtest.h>
 
@@ -73,10 +74,7 @@ TEST(CalcularPesos, SetsOfOneAndTwo) {
         EXPECT_EQ(pesos.Cota(), 1);
         EXPECT_EQ(pesos(1), ValorLibre(100));
     }
-    Arreglo<ValorLibre> pesos;
-    EXPECT_EQ(Razon(DeFilas({{1, 3}, {1.0 / 3, 1}}), &pesos), 0.0);
-    EXPECT_NEAR(pesos(1).Numero(), 75, 1e-12);
-    EXPECT_NEAR(pesos(2).Numero(), 25, 1e-12);
+    ComprobarContraReferencia({{1, 3}, {{1, 3}, 1}});
     ComprobarContraReferencia({{1, {73, 10}}, {{10, 73}, 1}});
     EXPECT_EQ(Razon(DeFilas({{1, 9}, {9, 1}})), 0.0) << "even a matrix that is not reciprocal";
 }
@@ -170,33 +168,31 @@ TEST(ConstruirMatrizConsistente, DerivesEveryCellFromTheFirstRow) {
     }
 }
 
-std::string Porcentajes(const std::vector<ValorLibre>& puntuaciones,
-                        Arreglo<ValorLibre>* salida = nullptr) {
-    const int n = static_cast<int>(puntuaciones.size());
-    RejillaMemoria rejilla(n + 2, 3);
-    Arreglo<ValorLibre> p, porcentajes;
-    p.Redimensionar(n);
-    std::copy(puntuaciones.begin(), puntuaciones.end(), p.begin());
-    LlenarPorcentajesDirecto(p, porcentajes, rejilla);
-    if (salida != nullptr) {
-        *salida = porcentajes;
-    }
-    std::string texto;
-    for (int f = 1; f <= n + 1; ++f) {
-        texto += rejilla.Texto(f, 2) + "|";
-    }
-    return texto + rejilla.Texto(n + 1, 1);
-}
-
+// Each case: the scores ('' for none); the percentages and the total as the grid shows them,
+// the sum of the scores, and the percentages as they are kept.
 TEST(LlenarPorcentajesDirecto, SharesTheSumAndTotalsTheShownFigures) {
-    Arreglo<ValorLibre> tercios;
-    EXPECT_EQ(Porcentajes({2, ValorLibre(), 2}), "50.00||50.00|100.00 %|4.00");
-    EXPECT_EQ(Porcentajes({1, 1, 1}, &tercios), "33.33|33.33|33.33|99.99 %|3.00");
-    EXPECT_NEAR(tercios(1).Numero(), 100.0 / 3, 1e-12) << "kept unrounded";
-    EXPECT_EQ(Porcentajes({-1, 3}), "-50.00|150.00|100.00 %|2.00") << "no test of sign";
-    EXPECT_EQ(Porcentajes({0, 0}), "100.00|100.00||") << "nothing to share: a hundred each";
-    EXPECT_EQ(Porcentajes({-1, ValorLibre(), -2}, &tercios), "100.00||100.00||");
-    EXPECT_TRUE(tercios(2).EsVacio());
+    pruebas::Acta acta;
+    for (const pruebas::Caso& caso : pruebas::Casos("ponderacion/porcentajes.txt")) {
+        const int n = static_cast<int>(caso.campos.size());
+        Arreglo<ValorLibre> puntuaciones, porcentajes;
+        puntuaciones.Redimensionar(n);
+        for (int k = 1; k <= n; ++k) {
+            const std::string& campo = caso.campos[static_cast<std::size_t>(k - 1)];
+            puntuaciones(k) = campo.empty() ? ValorLibre() : ValorLibre(std::stod(campo));
+        }
+        RejillaMemoria rejilla(n + 2, 3);
+        LlenarPorcentajesDirecto(puntuaciones, porcentajes, rejilla);
+        std::string salida;
+        for (int f = 1; f <= n + 1; ++f) {
+            salida += rejilla.Texto(f, 2) + "|";
+        }
+        salida += " sum '" + rejilla.Texto(n + 1, 1) + "', kept";
+        for (const ValorLibre& porcentaje : porcentajes) {
+            salida += " '" + porcentaje.Texto() + "'";
+        }
+        acta.Fila(caso.texto, salida);
+    }
+    acta.Comparar("ponderacion/porcentajes.txt");
 }
 
 TEST(ColorConsistencia, CaptionAndColourOfTheRatio) {

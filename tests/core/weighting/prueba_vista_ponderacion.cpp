@@ -82,26 +82,18 @@ TEST_F(VistaPonderacionPrueba, WithoutSubcriteriaColumnTwoShowsTheIndicators) {
 }
 
 TEST_F(VistaPonderacionPrueba, ANodeShowsItsKeyNameAndWeightOnlyWhenItHasOne) {
-    struct Caso {
-        ValorLibre peso;
-        std::string texto;
-        ColorRGB fondo;
-    };
-    const Caso casos[] = {
-        {ValorLibre(), "(C2R1) Plazo", ColorRojoClaro},
-        {12.345, "(C2R1) Plazo\nPeso: 12.35 %", ColorBlanco},
-        {0.0, "(C2R1) Plazo\nPeso: 0.00 %", ColorBlanco},
-        {"33.3", "(C2R1) Plazo\nPeso: 33.30 %", ColorBlanco},
-        {100, "(C2R1) Plazo\nPeso: 100.00 %", ColorBlanco},
-    };
-    for (const Caso& caso : casos) {
-        CabeceraNodo nodo;
-        nodo.Clave = "C2R1";
-        nodo.Nombre = "Plazo";
-        nodo.Peso = caso.peso;
-        EXPECT_EQ(TextoNodoPonderacion(nodo), caso.texto);
-        EXPECT_EQ(ColorNodoPonderacion(nodo), caso.fondo) << caso.texto;
+    CabeceraNodo nodo;
+    nodo.Clave = "C2R1";
+    nodo.Nombre = "Plazo";
+    std::string textos;
+    for (const ValorLibre& peso :
+         {ValorLibre(), ValorLibre(12.345), ValorLibre(0.0), ValorLibre("33.3"), ValorLibre(100)}) {
+        nodo.Peso = peso;
+        textos += TextoNodoPonderacion(nodo) + "|";
+        EXPECT_EQ(ColorNodoPonderacion(nodo), peso.EsVacio() ? ColorRojoClaro : ColorBlanco);
     }
+    EXPECT_EQ(textos, "(C2R1) Plazo|(C2R1) Plazo\nPeso: 12.35 %|(C2R1) Plazo\nPeso: 0.00 %|"
+                      "(C2R1) Plazo\nPeso: 33.30 %|(C2R1) Plazo\nPeso: 100.00 %|");
 }
 
 // Each cell: the set a click selects (the nearest filled parent's; none, with the message, on
@@ -109,13 +101,11 @@ TEST_F(VistaPonderacionPrueba, ANodeShowsItsKeyNameAndWeightOnlyWhenItHasOne) {
 // along its path (60 % x 50 % x 40 % x 25 % = 3 %; the criterion's own indicator skips the
 // empty column).
 TEST_F(VistaPonderacionPrueba, WhatEachCellSelectsWeighsAndShowsAsGlobalWeight) {
-    const std::pair<int, int> celdas[] = {
-        {0, 0}, {3, 0}, {4, 0}, {6, 0}, {0, 1}, {2, 1}, {5, 1}, {6, 1}, {0, 2}, {1, 2},
-        {2, 2}, {3, 2}, {5, 2}, {0, 3}, {1, 3}, {2, 3}, {3, 3}, {4, 3}, {5, 3},
-    };
     pruebas::Acta acta;
     acta.iconos = true;
-    for (const auto& [fila, columna] : celdas) {
+    for (const pruebas::Caso& caso : pruebas::Casos("ponderacion/celdas.txt")) {
+        const std::string& celda = caso.campos.at(1);
+        const int fila = std::stoi(celda), columna = std::stoi(celda.substr(celda.find(',') + 1));
         const auto conjunto = SeleccionarConjunto(vista, fila, columna);
         EXPECT_EQ(ConjuntoDeCelda(vista, fila, columna), conjunto) << fila << "," << columna;
         std::string texto = "no set";
@@ -131,13 +121,13 @@ TEST_F(VistaPonderacionPrueba, WhatEachCellSelectsWeighsAndShowsAsGlobalWeight) 
         } else {
             texto += " nothing";
         }
-        acta.Fila("cell " + std::to_string(fila) + "," + std::to_string(columna),
-                  texto + "; '" + TextoPesoGlobal(modelo, vista, fila, columna) + "'");
+        acta.Fila(caso.texto, texto + "; '" + TextoPesoGlobal(modelo, vista, fila, columna) + "'");
     }
     acta.Comparar("ponderacion/celdas.txt");
     modelo.Requerimientos(1).Peso = ValorLibre();
     EXPECT_EQ(TextoPesoGlobal(modelo, vista, 0, 3), "") << "a missing weight up the path";
 }
+
 TEST_F(VistaPonderacionPrueba, RebuildingASetTakesItsNewWeightsAndColours) {
     const SeleccionConjunto conjunto{3, 3, 4};
     NodoCriterio& plazo = modelo.Requerimientos(1).Criterios(2);
@@ -177,23 +167,21 @@ TEST_F(VistaPonderacionPrueba, AnEmptyModelAsksWhereToGo) {
 
     const std::string texto = "Imposible ponderar. El modelo está vacío.\nDesea volver a la "
                               "pantalla de diseño del árbol de requerimientos?";
-    mensajes.Esperar(kTitulo, texto, Respuesta::Si);
-    const Transicion diseno = PreguntarModeloVacio();
+    for (const auto& [respuesta, hija, posicion] :
+         {std::tuple{Respuesta::Si, Hija::Ejes, Posicion::Ejes},
+          std::tuple{Respuesta::No, Hija::Informe, Posicion::Informe}}) {
+        mensajes.Esperar(kTitulo, texto, respuesta);
+        const Transicion t = PreguntarModeloVacio();
+        EXPECT_EQ(t.descargar, std::vector<Hija>{Hija::Ponderacion});
+        EXPECT_EQ(t.cargar, std::vector<Hija>{hija});
+        EXPECT_EQ(t.destino, posicion);
+        // Yes goes back to the design with setting A, No on to the report with setting B.
+        const Ajuste a = respuesta == Respuesta::Si ? AjusteDiseno() : AjusteRevision();
+        EXPECT_EQ(std::tuple(t.ajuste.entradasDiseno, t.ajuste.cmdRetroceder, t.ajuste.grupoDiseno),
+                  std::tuple(a.entradasDiseno, a.cmdRetroceder, a.grupoDiseno));
+    }
     EXPECT_EQ(mensajes.Vistos().at(0).botones, Botones::SiNo);
     EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Critico);
-    EXPECT_EQ(diseno.descargar, std::vector<Hija>{Hija::Ponderacion});
-    EXPECT_EQ(diseno.cargar, std::vector<Hija>{Hija::Ejes});
-    EXPECT_EQ(diseno.destino, Posicion::Ejes);
-    EXPECT_EQ(diseno.ajuste.grupoDiseno, AjusteDiseno().grupoDiseno);
-    EXPECT_EQ(diseno.ajuste.entradasDiseno, true);
-
-    mensajes.Esperar(kTitulo, texto, Respuesta::No);
-    const Transicion informe = PreguntarModeloVacio();
-    EXPECT_EQ(informe.descargar, std::vector<Hija>{Hija::Ponderacion});
-    EXPECT_EQ(informe.cargar, std::vector<Hija>{Hija::Informe});
-    EXPECT_EQ(informe.destino, Posicion::Informe);
-    EXPECT_EQ(informe.ajuste.entradasDiseno, false);
-    EXPECT_EQ(informe.ajuste.cmdRetroceder, true);
 }
 
 } // namespace

@@ -38,50 +38,40 @@ protected:
     }
     int ImprimirEn(const QAbstractItemView& lista, bool apaisado = false) {
         const std::string ruta = Ruta("lista" + std::to_string(++impresiones) + ".pdf");
-        {
-            QPdfWriter pdf(Q(ruta));
-            pdf.setPageSize(QPageSize(QPageSize::A4));
-            pdf.setPageOrientation(apaisado ? QPageLayout::Landscape : QPageLayout::Portrait);
-            ImprimirLista(lista, pdf);
-        }
+        ImprimirLista(lista, *A4(ruta, apaisado));
         return PaginasPdf(ruta);
     }
     int PorPagina(bool apaisado = false) {
-        QPdfWriter pdf(Q(Ruta("medida.pdf")));
-        pdf.setPageSize(QPageSize(QPageSize::A4));
-        pdf.setPageOrientation(apaisado ? QPageLayout::Landscape : QPageLayout::Portrait);
-        return LineasPorPagina(pdf);
+        return LineasPorPagina(*A4(Ruta("medida.pdf"), apaisado));
+    }
+    // A PDF file of A4 pages, written out when it goes.
+    static std::unique_ptr<QPdfWriter> A4(const std::string& ruta, bool apaisado) {
+        auto pdf = std::make_unique<QPdfWriter>(Q(ruta));
+        pdf->setPageSize(QPageSize(QPageSize::A4));
+        pdf->setPageOrientation(apaisado ? QPageLayout::Landscape : QPageLayout::Portrait);
+        return pdf;
     }
     int impresiones = 0;
 };
 
-TEST_F(ImpresionLista, APageOfA4HoldsTheLinesOfItsHeightWithinTheMargins) {
+TEST_F(ImpresionLista, APageOfA4HoldsTheLinesOfItsHeightAndTheLinesFillPageAfterPage) {
     // 297 mm less 38.8 mm of margins, at a 10-point font of about 4.4 mm a line.
-    const int alto = PorPagina();
-    EXPECT_GE(alto, 45);
-    EXPECT_LE(alto, 65);
-    const int ancho = PorPagina(true);
-    EXPECT_LT(ancho, alto) << "a landscape page is lower";
+    const int n = PorPagina(), ancho = PorPagina(true);
+    EXPECT_GE(n, 45);
+    EXPECT_LE(n, 65);
+    EXPECT_LT(ancho, n) << "a landscape page is lower";
     EXPECT_GE(ancho, 28);
-}
-
-TEST_F(ImpresionLista, TheLinesFillPageAfterPage) {
-    const int n = PorPagina();
-    struct Caso {
-        int lineas;
-        int paginas;
-    };
-    for (const Caso caso :
-         {Caso{0, 1}, Caso{1, 1}, Caso{n, 1}, Caso{n + 1, 2}, Caso{3 * n, 3}, Caso{3 * n + 1, 4}}) {
-        EXPECT_EQ(Imprimir(caso.lineas), caso.paginas) << caso.lineas << " lines";
+    const std::pair<int, int> casos[] = {{0, 1},     {1, 1},     {n, 1},
+                                         {n + 1, 2}, {3 * n, 3}, {3 * n + 1, 4}};
+    for (const auto& [lineas, paginas] : casos) {
+        EXPECT_EQ(Imprimir(lineas), paginas) << lineas << " lines";
     }
-    EXPECT_EQ(Imprimir(n + 1, true), 2 + (n + 1 > 2 * PorPagina(true) ? 1 : 0));
+    EXPECT_EQ(Imprimir(n + 1, true), 2 + (n + 1 > 2 * ancho ? 1 : 0));
 }
 
-TEST_F(ImpresionLista, ShownColumnHeadingsTakeALineOfEveryPage) {
+TEST_F(ImpresionLista, ShownColumnHeadingsAndALongLineTakeTheLinesTheyNeed) {
     const int n = PorPagina();
     QTreeWidget arbol;
-    arbol.setColumnCount(2);
     arbol.setHeaderLabels({Q("Nodo"), Q("Peso")});
     for (int i = 1; i <= n; ++i) {
         arbol.addTopLevelItem(new QTreeWidgetItem({Q("I" + std::to_string(i)), Q("0.50")}));
@@ -89,29 +79,12 @@ TEST_F(ImpresionLista, ShownColumnHeadingsTakeALineOfEveryPage) {
     EXPECT_EQ(ImprimirEn(arbol), 2) << "with the headings a full list no longer fits";
     arbol.setHeaderHidden(true);
     EXPECT_EQ(ImprimirEn(arbol), 1);
-}
-
-TEST_F(ImpresionLista, ALongLineWrapsAndTakesTheLinesItNeeds) {
-    const int n = PorPagina();
-    QListWidget lista;
     std::string larga;
     for (int i = 0; i < 60; ++i) {
         larga += "palabra ";
     }
-    lista.addItem(Q(larga));
-    for (int i = 1; i < n; ++i) {
-        lista.addItem(Q("linea"));
-    }
-    EXPECT_EQ(ImprimirEn(lista), 2) << "the long first line takes more than one line";
-}
-
-TEST_F(ImpresionLista, APrinterThatCannotStartIsAPrinterError) {
-    QListWidget lista;
-    lista.addItem(Q("linea"));
-    ImpresoraElegida elegida;
-    elegida.archivo = Ruta("no/existe/lista.pdf");
-    const auto impresora = CrearImpresora(elegida);
-    EXPECT_EQ(pruebas::NumeroDeError([&] { ImprimirLista(lista, *impresora); }), ErrImpresora);
+    arbol.topLevelItem(0)->setText(0, Q(larga));
+    EXPECT_EQ(ImprimirEn(arbol), 2) << "the long first line wraps and takes more than one line";
 }
 
 TEST_F(ImpresionLista, TheChosenPrinterIsSetUpAsItWasChosen) {
@@ -155,20 +128,15 @@ protected:
     int impresiones = 0;
 };
 
-TEST_F(ImpresionInforme, AnEmptyReportAndOneThatFitsEjectOnePage) {
+TEST_F(ImpresionInforme, PagesFollowTheTextAndTheMargins) {
+    // An empty report and one that fits eject one page. A4 less the report's margins leaves
+    // about 10 inches: some 45 lines of 11 points.
     EXPECT_EQ(Imprimir(Informe()), 1);
     EXPECT_EQ(Imprimir(Lineas(1)), 1);
-    EXPECT_EQ(Imprimir(Lineas(30)), 1);
-}
-
-TEST_F(ImpresionInforme, PagesFollowTheTextAndTheMargins) {
-    // A4 less the report's margins leaves about 10 inches: some 45 lines of 11 points.
-    const int una = Imprimir(Lineas(40));
+    EXPECT_EQ(Imprimir(Lineas(40)), 1);
     const int dos = Imprimir(Lineas(80));
-    const int cinco = Imprimir(Lineas(230));
-    EXPECT_EQ(una, 1);
     EXPECT_EQ(dos, 2);
-    EXPECT_EQ(cinco, 5);
+    EXPECT_EQ(Imprimir(Lineas(230)), 5);
     // Wider top and bottom margins leave room for fewer lines.
     EXPECT_GT(Imprimir(Lineas(80), {2000, 4000, 1000, 4000}), dos);
 }
@@ -181,10 +149,14 @@ TEST_F(ImpresionInforme, PicturesTakeTheirRoomAndNeverPartAcrossPages) {
     EXPECT_LT(paginas, 100);
 }
 
+// A list, a report and a PDF export on a device that cannot start.
 TEST_F(ImpresionInforme, ADeviceThatCannotStartIsAPrinterError) {
     ImpresoraElegida elegida;
     elegida.archivo = Ruta("no/existe/informe.pdf");
     const auto impresora = CrearImpresora(elegida);
+    QListWidget lista;
+    lista.addItem(Q("linea"));
+    EXPECT_EQ(pruebas::NumeroDeError([&] { ImprimirLista(lista, *impresora); }), ErrImpresora);
     EXPECT_EQ(pruebas::NumeroDeError([&] { ImprimirRTF(Lineas(3), *impresora); }), ErrImpresora);
     EXPECT_EQ(pruebas::NumeroDeError(
                   [&] { EscribirInformePdf(Lineas(3), Ruta("no/existe/informe.pdf")); }),

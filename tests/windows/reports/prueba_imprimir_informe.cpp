@@ -43,24 +43,6 @@ namespace {
 
 using pruebas::PaginasPdf;
 
-// The part of the model a design window writes, replaced by that of another model.
-void CambiarParte(Modelo& modelo, ParteModelo parte) {
-    switch (parte) {
-    case ParteModelo::Requerimientos: {
-        const Modelo otro = pruebas::ModeloSinNombreNiPesos();
-        modelo.NumRequerimientos = otro.NumRequerimientos;
-        modelo.Requerimientos = otro.Requerimientos;
-        break;
-    }
-    case ParteModelo::Componentes:
-        pruebas::PonerComponentes(modelo, {{"Otro componente", {}}});
-        break;
-    case ParteModelo::Etapas:
-        pruebas::PonerEtapas(modelo, {"Otra etapa"});
-        break;
-    }
-}
-
 int Filas(const QAbstractItemView& vista) {
     int filas = 0;
     std::function<void(const QModelIndex&)> contar = [&](const QModelIndex& padre) {
@@ -81,30 +63,48 @@ protected:
     std::string TextoDelModelo() { return TextoPlano(GenerarInforme(sesion().modelo)); }
 };
 
-TEST_F(InformePrincipal, AcceptingADesignWindowRebuildsTheReportAndRefillsTheSummary) {
+// Each case: a design window, a change of the part it writes, a name the change takes away.
+TEST_F(InformePrincipal, AcceptingADesignWindowRebuildsTheReportTheSummaryAndTheOverview) {
     const struct {
         vadro::Hija diseno;
-        ParteModelo parte;
+        std::function<void(Modelo&)> cambiar;
         const char* nombre;
     } casos[] = {
-        {Hija::Requerimientos, ParteModelo::Requerimientos, "Económico"},
-        {Hija::Componentes, ParteModelo::Componentes, "Estructura"},
-        {Hija::Etapas, ParteModelo::Etapas, "Construcción"},
+        {Hija::Requerimientos,
+         [](Modelo& m) {
+             m.NumRequerimientos = 1;
+             m.Requerimientos.RedimensionarConservando(1);
+         },
+         "Social"},
+        {Hija::Componentes, [](Modelo& m) { pruebas::PonerComponentes(m, {}); }, "Estructura"},
+        {Hija::Etapas, [](Modelo& m) { pruebas::PonerEtapas(m, {}); }, "Construcción"},
     };
+    // The rebuilds leave the user's clipboard alone.
+    QImage imagen(16, 16, QImage::Format_RGB32);
+    imagen.fill(QColor(12, 34, 56));
+    auto* datos = new QMimeData;
+    datos->setText(Q("texto del usuario"));
+    datos->setImageData(imagen);
+    QApplication::clipboard()->setMimeData(datos);
     for (const auto& caso : casos) {
         SCOPED_TRACE(caso.nombre);
         sesion().modelo = pruebas::ModeloCompleto();
         // The design window holds its copy of the model; the model then changes under it, and
-        // the report and the summary show the change.
+        // the report, the summary and the overview show the change.
         auto& diseno = dynamic_cast<VentanaDiseno&>(principal.Cargar(caso.diseno));
-        CambiarParte(sesion().modelo, caso.parte);
-        principal.Descargar(Hija::Informe);
-        principal.Descargar(Hija::Resumen);
+        caso.cambiar(sesion().modelo);
+        for (const vadro::Hija hija : {Hija::Informe, Hija::Resumen, Hija::Ponderacion}) {
+            principal.Descargar(hija);
+        }
         frmInforme& informe = Informe();
         auto& resumen = dynamic_cast<frmResumen&>(principal.Cargar(Hija::Resumen));
+        auto& ponderacion = dynamic_cast<frmPonderacion&>(principal.Cargar(Hija::Ponderacion));
+        const auto filas = [&resumen] {
+            return Filas(*resumen.tvwRequerimientos) + Filas(*resumen.tvwComponentes) +
+                   resumen.lstEtapas->count();
+        };
         ASSERT_EQ(Texto().find(caso.nombre), std::string::npos);
-        const int filasAntes = Filas(*resumen.tvwRequerimientos) + Filas(*resumen.tvwComponentes) +
-                               resumen.lstEtapas->count();
+        const int filasAntes = filas();
 
         QTest::mouseClick(diseno.cmdAceptar, Qt::LeftButton);
 
@@ -112,40 +112,15 @@ TEST_F(InformePrincipal, AcceptingADesignWindowRebuildsTheReportAndRefillsTheSum
         EXPECT_EQ(principal.Abierta(Hija::Informe), &informe) << "the same window, rebuilt";
         EXPECT_NE(Texto().find(caso.nombre), std::string::npos);
         EXPECT_EQ(Texto(), TextoDelModelo());
-        const int filasDespues = Filas(*resumen.tvwRequerimientos) +
-                                 Filas(*resumen.tvwComponentes) + resumen.lstEtapas->count();
-        EXPECT_GT(filasDespues, filasAntes) << "the summary shows the accepted part";
+        EXPECT_GT(filas(), filasAntes) << "the summary shows the accepted part";
+        // Coste, Plazo, Durabilidad, Acabado, Atención, Puestos: a row per indicator, five
+        // before the requirements were accepted.
+        EXPECT_EQ(ponderacion.grdRequerimientos->model()->rowCount(), 6);
+        EXPECT_EQ(sesion().FilasPonderacion.size(), 6u);
     }
-}
-
-TEST_F(InformePrincipal, AcceptingTheRequirementsReloadsTheOverviewOfWeights) {
-    auto& diseno = dynamic_cast<VentanaDiseno&>(principal.Cargar(Hija::Requerimientos));
-    CambiarParte(sesion().modelo, ParteModelo::Requerimientos);
-    auto& ponderacion = dynamic_cast<frmPonderacion&>(principal.Cargar(Hija::Ponderacion));
-    const int antes = ponderacion.grdRequerimientos->model()->rowCount();
-    QTest::mouseClick(diseno.cmdAceptar, Qt::LeftButton);
-    // Coste, Plazo, Durabilidad, Acabado, Atención, Puestos: a row per indicator.
-    EXPECT_EQ(ponderacion.grdRequerimientos->model()->rowCount(), 6);
-    EXPECT_NE(antes, 6);
-    EXPECT_EQ(sesion().FilasPonderacion.size(), 6u);
-}
-
-TEST_F(InformePrincipal, ARebuildLeavesTheUsersClipboardAlone) {
-    QImage imagen(16, 16, QImage::Format_RGB32);
-    imagen.fill(QColor(12, 34, 56));
-    auto* datos = new QMimeData;
-    datos->setText(Q("texto del usuario"));
-    datos->setImageData(imagen);
-    QApplication::clipboard()->setMimeData(datos);
-
-    auto& diseno = dynamic_cast<VentanaDiseno&>(principal.Cargar(Hija::Requerimientos));
-    Informe().ActualizarRTFs();
-    QTest::mouseClick(diseno.cmdAceptar, Qt::LeftButton);
-
     const QMimeData* despues = QApplication::clipboard()->mimeData();
-    ASSERT_NE(despues, nullptr);
+    ASSERT_TRUE(despues != nullptr && despues->hasImage());
     EXPECT_EQ(despues->text(), Q("texto del usuario"));
-    ASSERT_TRUE(despues->hasImage());
     EXPECT_EQ(qvariant_cast<QImage>(despues->imageData()).convertToFormat(QImage::Format_RGB32),
               imagen);
 }
@@ -153,10 +128,15 @@ TEST_F(InformePrincipal, ARebuildLeavesTheUsersClipboardAlone) {
 TEST_F(InformePrincipal, PrintingGoesToTheChosenPrinterWithAWindowLoadedForTheMoment) {
     const std::string ruta = Ruta("impreso.pdf");
     pruebas::GuionImpresoras impresoras;
+    impresoras.Cancelar(); // says nothing
+    principal.mnuImprimir->trigger();
+    impresoras.ElegirArchivo(Ruta("no/existe/impreso.pdf"));
+    mensajes.Esperar("VADRO PROGRAMADOR: imprimir modelo", "Error 482 al realizar la impresión.");
+    principal.Imprimir();
     impresoras.ElegirArchivo(ruta);
     principal.mnuImprimir->trigger();
-    ASSERT_EQ(impresoras.Peticiones().size(), 1u);
-    EXPECT_EQ(impresoras.Peticiones()[0].flags, PeticionImprimirModelo().flags);
+    ASSERT_EQ(impresoras.Peticiones().size(), 3u);
+    EXPECT_EQ(impresoras.Peticiones()[2].flags, PeticionImprimirModelo().flags);
     EXPECT_EQ(principal.Abierta(Hija::Informe), nullptr) << "loaded for the moment only";
     // The same report on the same printer, page for page; the pictures are drawn, not pasted
     // as bitmaps: the only images are the icons.
@@ -166,26 +146,13 @@ TEST_F(InformePrincipal, PrintingGoesToTheChosenPrinterWithAWindowLoadedForTheMo
     EXPECT_EQ(PaginasPdf(ruta), paginas);
     EXPECT_GE(paginas, 2);
     EXPECT_LE(pruebas::ImagenesPdf(ruta), 2 * 7);
-}
 
-TEST_F(InformePrincipal, AnOpenReportStaysOpenAfterPrinting) {
+    // An open report stays open after printing.
     frmInforme& informe = Informe();
-    pruebas::GuionImpresoras impresoras;
-    impresoras.ElegirArchivo(Ruta("impreso.pdf"));
+    impresoras.ElegirArchivo(Ruta("otro.pdf"));
     principal.Imprimir();
     EXPECT_EQ(principal.Abierta(Hija::Informe), &informe);
-    EXPECT_GE(PaginasPdf(Ruta("impreso.pdf")), 2);
-}
-
-TEST_F(InformePrincipal, ACancelledPrinterDialogSaysNothingAndAFailureGivesTheMessage) {
-    pruebas::GuionImpresoras impresoras;
-    impresoras.Cancelar();
-    principal.Imprimir();
-
-    impresoras.ElegirArchivo(Ruta("no/existe/impreso.pdf"));
-    mensajes.Esperar("VADRO PROGRAMADOR: imprimir modelo", "Error 482 al realizar la impresión.");
-    principal.Imprimir();
-    EXPECT_EQ(principal.Abierta(Hija::Informe), nullptr);
+    EXPECT_EQ(PaginasPdf(Ruta("otro.pdf")), paginas);
 }
 
 TEST_F(InformePrincipal, ThePreviewShowsTheReportsPages) {
@@ -202,47 +169,24 @@ TEST_F(InformePrincipal, ThePreviewShowsTheReportsPages) {
     EXPECT_GE(paginas, 2);
 }
 
+// The entry follows printing in the file menu and writes a PDF beside the model.
 TEST_F(InformePrincipal, TheExportWritesAPdfBesideTheModel) {
+    const QList<QAction*> entradas = principal.mnuArchivo->actions();
+    EXPECT_EQ(entradas.value(entradas.indexOf(principal.mnuImprimir) + 1),
+              principal.mnuExportarPDF);
+    EXPECT_EQ(principal.mnuExportarPDF->text(), Q("&Exportar a PDF..."));
     sesion().modelo.Archivo = Ruta("puente.vdm");
     pruebas::GuionDialogos dialogos;
     dialogos.Elegir("Exportar informe a PDF", Ruta("puente"));
     principal.mnuExportarPDF->trigger();
-    ASSERT_EQ(dialogos.Peticiones().size(), 1u);
-    EXPECT_EQ(dialogos.Peticiones()[0].directorioInicial, Directorio());
-    EXPECT_EQ(dialogos.Peticiones()[0].nombreArchivo, "puente.pdf");
-    // A name typed without its extension gets the filter's; A4 with the report's margins.
+    // Where the dialog starts is the core's; a name typed without its extension gets the
+    // filter's; A4 with the report's margins.
     const std::string ruta = Ruta("puente.pdf");
     ASSERT_TRUE(std::filesystem::exists(ruta));
     QPdfWriter igual(Q(Ruta("igual.pdf")));
     igual.setPageSize(QPageSize(QPageSize::A4));
     EXPECT_EQ(PaginasPdf(ruta), ImprimirRTF(GenerarInforme(sesion().modelo), igual));
     EXPECT_LE(pruebas::ImagenesPdf(ruta), 2 * 7);
-}
-
-TEST_F(InformePrincipal, AnExportCancelledWritesNothingAndAFailureSaysWhy) {
-    pruebas::GuionDialogos dialogos;
-    dialogos.Cancelar("Exportar informe a PDF");
-    const auto archivos = [this] {
-        return std::distance(std::filesystem::directory_iterator(Directorio()),
-                             std::filesystem::directory_iterator());
-    };
-    const auto antes = archivos();
-    principal.mnuExportarPDF->trigger();
-    EXPECT_EQ(archivos(), antes);
-
-    dialogos.Elegir("Exportar informe a PDF", Ruta("no/existe/informe.pdf"));
-    mensajes.Esperar("VADRO PROGRAMADOR: exportar a PDF",
-                     "Error 75 al exportar el informe a PDF: " + DescripcionError(ErrAccesoRuta) +
-                         ".");
-    principal.mnuExportarPDF->trigger();
-}
-
-TEST_F(InformePrincipal, TheExportEntryFollowsPrintingInTheFileMenu) {
-    const QList<QAction*> entradas = principal.mnuArchivo->actions();
-    const auto imprimir = entradas.indexOf(principal.mnuImprimir);
-    ASSERT_GE(imprimir, 0);
-    EXPECT_EQ(entradas.value(imprimir + 1), principal.mnuExportarPDF);
-    EXPECT_EQ(principal.mnuExportarPDF->text(), Q("&Exportar a PDF..."));
 }
 
 } // namespace

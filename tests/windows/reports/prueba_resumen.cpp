@@ -68,18 +68,11 @@ std::string Todo(const frmResumen& resumen) {
 }
 
 TEST_F(Resumen, AFullModelKeyedExpandedWithIconsAndNoWeights) {
-    const std::string texto = Todo(Abrir(pruebas::ModeloCompleto()));
+    frmResumen& resumen = Abrir(pruebas::ModeloCompleto());
+    pruebas::CompararVolcado(resumen, "frmResumen");
+    const std::string texto = Todo(resumen);
     EXPECT_EQ(texto, pruebas::Datos("resumen/completo.txt", texto));
     EXPECT_EQ(texto.find('%'), std::string::npos);
-}
-
-TEST_F(Resumen, AnEmptyModelShowsItsRootAlone) {
-    Modelo vacio;
-    InicializarModelo(vacio);
-    vacio.Nombre = "Presa del Ebro";
-    const std::string texto = Todo(Abrir(vacio));
-    EXPECT_EQ(texto, "[Arbol de requerimientos]\n* Modelo presa del ebro\n"
-                     "[Arbol de componentes]\n[Etapas del ciclo de vida]\n");
 }
 
 TEST_F(Resumen, APaneIsRefilledWhenItsPartChanges) {
@@ -117,10 +110,6 @@ TEST_F(Resumen, TheFramesShareTheWindowAndFollowItsSize) {
         EXPECT_LE(c.right(), tamano.width());
         EXPECT_GT(r.width(), tamano.width() / 3);
     }
-}
-
-TEST_F(Resumen, OneWidgetTree) {
-    pruebas::CompararVolcado(Abrir(pruebas::ModeloCompleto()), "frmResumen");
 }
 
 } // namespace

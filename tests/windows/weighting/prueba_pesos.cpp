@@ -17,15 +17,11 @@ namespace {
 
 using pruebas::Fraccion;
 
-const QColor kBlanco(255, 255, 255);
-const QColor kRojoClaro(255, 192, 192);
 const QColor kRojo(255, 0, 0);
 const QColor kVerde(0, 255, 0);
 const QColor kAmarillo(255, 255, 192);
 const std::string kAvisoAhp = "La matriz de pesos AHP ha sido modificada y se perderán los "
                               "valores introducidos.\nDesea continuar?";
-const std::string kIncompleta =
-    "La matriz de ponderación en modo directo no está completa. Desea continuar?";
 
 // The three criteria "Agua", "Energía", "Coste" of one requirement, never weighted.
 class VentanaPesos : public pruebas::SesionPesos {
@@ -51,19 +47,17 @@ protected:
     void Teclear(int fila, int columna, const char* texto) {
         SesionPesos::Teclear(*pesos, *pesos->grdSaaty, fila, columna, QString::fromUtf8(texto));
     }
-    // The figures of an exact matrix, as the grid should show them.
-    static std::string PesosDe(const std::vector<std::vector<Fraccion>>& m) {
+    // The weights and the ratio of an exact matrix of three, as the grid and its label should
+    // show them, and as they show them.
+    static std::string Esperado(const std::vector<std::vector<Fraccion>>& m) {
+        const auto ref = pruebas::CalcularReferencia(m);
         std::string texto;
-        for (const Fraccion& peso : pruebas::CalcularReferencia(m).pesos) {
+        for (const Fraccion& peso : ref.pesos) {
             texto += peso.Texto00() + " ";
         }
-        return texto;
+        return texto + "| " + Formato00((Redondeado00(ref.lambda.Doble()) - 3) / 2 / 0.58);
     }
-    static double RazonDe(const std::vector<std::vector<Fraccion>>& m, double ri) {
-        const double lambda = Redondeado00(pruebas::CalcularReferencia(m).lambda.Doble());
-        const double n = static_cast<double>(m.size());
-        return (lambda - n) / (n - 1) / ri;
-    }
+    std::string Mostrado() const { return Pesos(*pesos->grdSaaty) + "| " + Razon(*pesos); }
 
     std::unique_ptr<frmPesos> pesos;
 };
@@ -71,12 +65,8 @@ protected:
 TEST_F(VentanaPesos, TypedValuesShowTheirMirrorsTheWeightsAndTheRatio) {
     frmPesos& w = Abrir();
     pruebas::CompararVolcado(w, "frmPesos");
-    EXPECT_EQ(Celda(*w.grdSaaty, 0, 0), "AHP");
-    EXPECT_EQ(Celda(*w.grdSaaty, 0, 4), "Peso (%)");
     EXPECT_EQ(Celda(*w.grdSaaty, 2, 0), "Energía");
-    EXPECT_EQ(Celda(*w.grdSaaty, 0, 2), "Energía");
     EXPECT_EQ(Fondo(*w.grdSaaty, 2, 2), kAmarillo);
-    EXPECT_EQ(Fondo(*w.grdSaaty, 2, 4), kAmarillo);
     EXPECT_EQ(Razon(w), "") << "an incomplete matrix";
     EXPECT_EQ(ColorRazon(w), kRojo);
     EXPECT_EQ(w.grdSaaty->currentIndex(), w.grdSaaty->model()->index(1, 2));
@@ -88,15 +78,9 @@ TEST_F(VentanaPesos, TypedValuesShowTheirMirrorsTheWeightsAndTheRatio) {
     Teclear(3, 1, "0.2"); // below the diagonal: Coste is a fifth of Agua
     EXPECT_EQ(Celda(*w.grdSaaty, 1, 3), "5.00");
     Teclear(2, 3, "3");
-    EXPECT_EQ(Celda(*w.grdSaaty, 3, 2), "0.33");
     EXPECT_EQ(w.grdSaaty->currentIndex(), w.grdSaaty->model()->index(2, 3));
     EXPECT_TRUE(w.txtValor->isHidden());
-
-    const std::vector<std::vector<Fraccion>> m = {{Fraccion(1), Fraccion(3), Fraccion(5)},
-                                                  {Fraccion(1, 3), Fraccion(1), Fraccion(3)},
-                                                  {Fraccion(1, 5), Fraccion(1, 3), Fraccion(1)}};
-    EXPECT_EQ(Pesos(*w.grdSaaty), PesosDe(m));
-    EXPECT_EQ(Razon(w), Formato00(RazonDe(m, 0.58)));
+    EXPECT_EQ(Mostrado(), Esperado({{1, 3, 5}, {{1, 3}, 1, 3}, {{1, 5}, {1, 3}, 1}}));
     EXPECT_EQ(ColorRazon(w), kAmarillo) << Razon(w);
 
     // The colours of the ratio and the tooltips are the core's; the adapter carries them.
@@ -129,13 +113,7 @@ TEST_F(VentanaPesos, OneThirdChosenOnTheSaatyScaleWithTheCellBlinking) {
     EXPECT_FALSE(w.tmrIntermitencia->isActive());
     EXPECT_EQ(Fondo(*w.grdSaaty, 1, 2), kBlanco) << "left white";
     EXPECT_EQ(Celda(*w.grdSaaty, 1, 2), "0.33");
-    EXPECT_EQ(Celda(*w.grdSaaty, 2, 1), "3.00");
-    EXPECT_EQ(sesion().MatrizSaaty(1, 2), ValorLibre(1.0 / 3));
-    const std::vector<std::vector<Fraccion>> m = {{Fraccion(1), Fraccion(1, 3), Fraccion(2)},
-                                                  {Fraccion(3), Fraccion(1), Fraccion(2)},
-                                                  {Fraccion(1, 2), Fraccion(1, 2), Fraccion(1)}};
-    EXPECT_EQ(Pesos(*w.grdSaaty), PesosDe(m));
-    EXPECT_EQ(Razon(w), Formato00(RazonDe(m, 0.58)));
+    EXPECT_EQ(Mostrado(), Esperado({{1, {1, 3}, 2}, {3, 1, 2}, {{1, 2}, {1, 2}, 1}}));
 
     // A shown figure matches no tag: no option is on; a double click on the words accepts.
     modales.Esperar(QStringLiteral("frmSaaty"), [](QDialog& d) {
@@ -148,7 +126,6 @@ TEST_F(VentanaPesos, OneThirdChosenOnTheSaatyScaleWithTheCellBlinking) {
     });
     w.grdSaaty_DblClick();
     EXPECT_EQ(Celda(*w.grdSaaty, 1, 2), "5.00");
-    EXPECT_EQ(sesion().MatrizSaaty(1, 2), ValorLibre(5));
 
     // Below the diagonal, and on the weights, there is no scale.
     w.grdSaaty->setCurrentIndex(w.grdSaaty->model()->index(2, 1));
@@ -169,7 +146,6 @@ TEST_F(VentanaPesos, ThePerfectMatrixIsRefusedThenShownAndTakenOver) {
 
     Teclear(1, 3, "4");
     Teclear(2, 3, "7");
-    sesion().modelo.Modificado = false;
     w.grdSaaty->setCurrentIndex(w.grdSaaty->model()->index(2, 3));
     mensajes.Esperar("VADRO PROGRAMADOR: Consistencia perfecta",
                      "Desea traspasar los valores hallados a la matriz de pesos?\nSe perderán los "
@@ -177,15 +153,9 @@ TEST_F(VentanaPesos, ThePerfectMatrixIsRefusedThenShownAndTakenOver) {
                      Respuesta::Si);
     modales.Esperar(QStringLiteral("frmConsistencia"), [&w](QDialog& d) {
         auto& perfecta = static_cast<frmConsistencia&>(d);
+        pruebas::CompararVolcado(perfecta, "frmConsistencia");
         const QTableView& g = *perfecta.grdSaaty;
-        EXPECT_EQ(Celda(g, 0, 0), "AHP");
-        EXPECT_EQ(Celda(g, 0, 4), "Peso");
-        EXPECT_EQ(Celda(g, 3, 0), "Coste");
-        EXPECT_EQ(Celda(g, 2, 1) + " " + Celda(g, 2, 2) + " " + Celda(g, 2, 3), "0.50 1.00 2.00");
-        EXPECT_EQ(Celda(g, 3, 1) + " " + Celda(g, 3, 2) + " " + Celda(g, 3, 3), "0.25 0.50 1.00");
         EXPECT_EQ(Pesos(g), "57.14 28.57 14.29 ");
-        EXPECT_EQ(Fondo(g, 2, 2), kAmarillo);
-        EXPECT_EQ(perfecta.lblCR->text().toStdString(), "0.00");
         EXPECT_EQ(Celda(*w.grdSaaty, 2, 3), "7.00") << "nothing taken over yet";
         perfecta.cmdAceptar->click();
         EXPECT_EQ(Celda(*w.grdSaaty, 2, 3), "2.00") << "taken over at once";
@@ -196,8 +166,6 @@ TEST_F(VentanaPesos, ThePerfectMatrixIsRefusedThenShownAndTakenOver) {
     w.cmdConsistencia->click();
     EXPECT_EQ(Pesos(*w.grdSaaty), "57.14 28.57 14.29 ");
     EXPECT_EQ(ColorRazon(w), kVerde);
-    EXPECT_EQ(sesion().MatrizSaaty(3, 2), ValorLibre(0.5));
-    EXPECT_TRUE(sesion().modelo.Modificado);
     EXPECT_EQ(w.grdSaaty->currentIndex(), w.grdSaaty->model()->index(2, 3)) << "restored";
 }
 
@@ -207,8 +175,6 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     w.optDirecto->click();
     pruebas::CompararVolcado(w, "frmPesos_directo");
     const QTableView& g = *w.grdDirecto;
-    EXPECT_EQ(Celda(g, 0, 0) + "|" + Celda(g, 0, 1) + "|" + Celda(g, 0, 2) + "|" + Celda(g, 4, 0),
-              "DIRECTO|Puntuación|Peso (%)|TOTAL");
 
     // A click on a score opens the input on its text.
     const auto pulsar = [&w](int fila, int columna, const char* texto) {
@@ -227,16 +193,14 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     QTest::mouseClick(w.grdDirecto->viewport(), Qt::LeftButton, {}, total.center());
     EXPECT_TRUE(w.txtValor->isHidden()) << "the total row takes no input";
 
-    mensajes.Esperar("VADRO PROGRAMADOR", kIncompleta, Respuesta::No);
-    w.cmdAceptar->click();
-    EXPECT_TRUE(Nodo(1).Peso.EsVacio());
-
     pulsar(2, 1, "1");
     EXPECT_EQ(Celda(g, 1, 2) + " " + Celda(g, 2, 2) + " " + Celda(g, 3, 2), "20.00 20.00 60.00");
     // The third score was typed in the percentage column: its score cell still shows nothing,
     // so the list is incomplete. Yes writes; the matrix was typed in, so the first warning
     // follows, and No keeps the window with the data written.
-    mensajes.Esperar("VADRO PROGRAMADOR", kIncompleta, Respuesta::Si);
+    mensajes.Esperar("VADRO PROGRAMADOR",
+                     "La matriz de ponderación en modo directo no está completa. Desea continuar?",
+                     Respuesta::Si);
     mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos", kAvisoAhp, Respuesta::No);
     w.cmdAceptar->click();
     EXPECT_TRUE(w.isVisible());
@@ -245,25 +209,15 @@ TEST_F(VentanaPesos, DirectScoresTheirPercentagesAndTheWarningsAfterAcceptance) 
     EXPECT_EQ(Nodo(1).Calculo, CalculoDirecto);
     EXPECT_EQ(Nodo(1).Saaty(2), ValorLibre("3")) << "the matrix is written too";
 
-    // Cancel: No stays; Yes leaves, through the same warning.
-    const std::string tituloCerrar = "VADRO PROGRAMADOR: cerrar matriz de pesos";
-    const std::string cerrar = "Se perderán los últimos datos introducidos. Desea continuar?";
-    mensajes.Esperar(tituloCerrar, cerrar, Respuesta::No);
-    w.cmdCancelar->click();
-    EXPECT_TRUE(w.isVisible());
-    mensajes.Esperar(tituloCerrar, cerrar, Respuesta::Si);
+    // Cancel leaves through the same warning.
+    mensajes.Esperar("VADRO PROGRAMADOR: cerrar matriz de pesos",
+                     "Se perderán los últimos datos introducidos. Desea continuar?", Respuesta::Si);
     mensajes.Esperar("VADRO PROGRAMADOR: matriz de pesos", kAvisoAhp, Respuesta::Si);
     w.cmdCancelar->click();
     EXPECT_FALSE(w.isVisible());
 }
 
-TEST_F(VentanaPesos, TheDumpOfThePerfectMatrixAndASetOfOne) {
-    frmPesos& w = Abrir();
-    Teclear(1, 2, "2");
-    Teclear(1, 3, "2");
-    frmConsistencia perfecta(w.RejillaSaaty(), *w.lblCR);
-    pruebas::CompararVolcado(perfecta, "frmConsistencia");
-
+TEST_F(VentanaPesos, ASetOfOneIsWeighedAtOnce) {
     using namespace pruebas;
     sesion().modelo = ModeloCon({Requerimiento("Único", {Criterio("Solo", {Indicador("x")})})});
     frmPesos solo(DireccionConjunto{1, {}, {}});

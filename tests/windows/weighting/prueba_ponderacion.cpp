@@ -1,7 +1,5 @@
-#include "core/files/modelo_archivo.h"
 #include "core/weighting/arbol_ponderado.h"
 #include "sesion_pesos.h"
-#include "soporte/datos.h"
 #include "soporte/volcado_ventana.h"
 #include "windows/shell/ventana_principal.h"
 #include "windows/weighting/frmPonderacion.h"
@@ -12,14 +10,9 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 namespace vadro {
 namespace {
 
-const QColor kBlanco(255, 255, 255);
-const QColor kRojoClaro(255, 192, 192);
 const QColor kMarino(0, 0, 128);
 const std::string kTitulo = "VADRO PROGRAMADOR: Ponderación";
 
@@ -35,9 +28,6 @@ protected:
     QTableView& Rejilla() const { return *ventana->grdRequerimientos; }
     QPoint Centro(int fila, int columna) const {
         return Rejilla().visualRect(Rejilla().model()->index(fila, columna)).center();
-    }
-    void Pulsar(int fila, int columna) {
-        QTest::mouseClick(Rejilla().viewport(), Qt::LeftButton, {}, Centro(fila, columna));
     }
     // As the system delivers a double click: press, release, press, double click, release.
     void DoblePulsar(int fila, int columna) {
@@ -59,34 +49,25 @@ protected:
         return colores;
     }
     std::string Ayuda(int fila, int columna) const {
-        return Rejilla()
-            .model()
-            ->index(fila, columna)
-            .data(Qt::ToolTipRole)
-            .toString()
-            .toStdString();
+        const QModelIndex celda = Rejilla().model()->index(fila, columna);
+        return celda.data(Qt::ToolTipRole).toString().toStdString();
     }
 
     std::unique_ptr<frmPonderacion> ventana;
 };
 
 TEST_F(Ponderacion, TheAdapterMergesEachParentOverItsDescendants) {
-    QTableView& g = *Abrir().grdRequerimientos;
+    pruebas::CompararVolcado(Abrir(), "frmPonderacion");
+    QTableView& g = Rejilla();
     ASSERT_EQ(g.model()->columnCount(), 4);
     ASSERT_EQ(g.model()->rowCount(), 7);
-    std::string cabeceras;
-    for (int c = 0; c < 4; ++c) {
-        cabeceras += g.model()->headerData(c, Qt::Horizontal).toString().toStdString() + "|";
-    }
-    EXPECT_EQ(cabeceras, "Requerimientos|Criterios|Subcriterios|Indicadores|");
-    struct Union {
-        int fila, columna, filas;
-    };
-    for (const Union& u :
-         {Union{0, 0, 6}, Union{6, 0, 1}, Union{0, 1, 3}, Union{3, 1, 2}, Union{5, 1, 1},
-          Union{0, 2, 2}, Union{2, 2, 1}, Union{3, 2, 1}, Union{0, 3, 1}}) {
-        EXPECT_EQ(g.rowSpan(u.fila, u.columna), u.filas) << u.fila << "," << u.columna;
-        EXPECT_EQ(g.columnSpan(u.fila, u.columna), 1);
+    EXPECT_EQ(g.model()->headerData(2, Qt::Horizontal).toString(), QStringLiteral("Subcriterios"));
+    const std::tuple<int, int, int> uniones[] = {{0, 0, 6}, {6, 0, 1}, {0, 1, 3},
+                                                 {3, 1, 2}, {5, 1, 1}, {0, 2, 2},
+                                                 {2, 2, 1}, {3, 2, 1}, {0, 3, 1}};
+    for (const auto& [fila, columna, filas] : uniones) {
+        EXPECT_EQ(g.rowSpan(fila, columna), filas) << fila << "," << columna;
+        EXPECT_EQ(g.columnSpan(fila, columna), 1);
     }
     // What each cell shows, colours and selects is the core's table of the overview.
     EXPECT_EQ(Celda(g, 0, 3), "(I1S1C1R1) Hormigón\nPeso: 25.00 %");
@@ -114,18 +95,6 @@ TEST_F(Ponderacion, ADoubleClickWeighsTheSetAndItsCellsComeBackWithTheirWeights)
     EXPECT_EQ(Colores(3), "bbbbbbb") << "the light red is gone";
     EXPECT_EQ(Ayuda(4, 3), "Peso global: 6.00 %");
     EXPECT_TRUE(sesion().modelo.Modificado);
-
-    // The model as a save writes it: the set's lines.
-    const std::string ruta = Ruta("pesos.vdm");
-    ASSERT_TRUE(GuardarModelo(sesion().modelo, ruta, true));
-    std::istringstream texto(Contenido(ruta));
-    std::string linea, lineas;
-    while (std::getline(texto, linea)) {
-        if (linea.rfind("REQ_I", 0) == 0 && linea.find("C2R1_") != std::string::npos) {
-            lineas += linea + "\n";
-        }
-    }
-    EXPECT_EQ(lineas, pruebas::Datos("ponderacion/conjunto_guardado.txt", lineas));
 }
 
 TEST_F(Ponderacion, TheDirectMethodOpensOnItsGridAndACancelWritesNothing) {
@@ -157,26 +126,17 @@ TEST_F(Ponderacion, TheDirectMethodOpensOnItsGridAndACancelWritesNothing) {
     EXPECT_EQ(modales.Vistas().size(), 1u);
 }
 
-TEST_F(Ponderacion, TheDumpOfTheOverview) {
-    pruebas::CompararVolcado(Abrir(), "frmPonderacion");
-}
+class PonderacionVacia : public pruebas::VentanaPrincipal {};
 
-class PonderacionVacia : public pruebas::VentanaPrincipal {
-protected:
-    void HastaLosPesos(Respuesta respuesta) {
-        NuevoModelo();
-        principal.cmdContinuar->click();
-        mensajes.Esperar(kTitulo,
-                         "Imposible ponderar. El modelo está vacío.\nDesea volver a la pantalla de "
-                         "diseño del árbol de requerimientos?",
-                         respuesta);
-        ContinuarAceptandoPermisos();
-        EXPECT_EQ(mensajes.Vistos().at(0).icono, Icono::Critico);
-    }
-};
-
+// The question's two answers are the core's; the main window takes the step of No.
 TEST_F(PonderacionVacia, NoGoesToTheReport) {
-    HastaLosPesos(Respuesta::No);
+    NuevoModelo();
+    principal.cmdContinuar->click();
+    mensajes.Esperar(kTitulo,
+                     "Imposible ponderar. El modelo está vacío.\nDesea volver a la pantalla de "
+                     "diseño del árbol de requerimientos?",
+                     Respuesta::No);
+    ContinuarAceptandoPermisos();
     EXPECT_EQ(Situacion(), "Informe | Posición: informe | frmInforme");
     EsperarAjusteB();
 }

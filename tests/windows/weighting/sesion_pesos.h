@@ -18,6 +18,10 @@ namespace vadro::pruebas {
 // does, and reading what the grids and the ratio's label show.
 class SesionPesos : public PruebaSesion {
 protected:
+    // The backgrounds of cells the weights grids share.
+    static inline const QColor kBlanco{255, 255, 255};
+    static inline const QColor kRojoClaro{255, 192, 192};
+
     // Types into a cell: the first character on the grid opens the input, the rest goes into
     // it, and Enter commits.
     static void Teclear(frmPesos& pesos, QTableView& rejilla, int fila, int columna,
