@@ -3,6 +3,7 @@
 
 #include "soporte/componentes_etapas.h"
 #include "soporte/errores.h"
+#include "tabla_funciones.h"
 
 #include <gtest/gtest.h>
 
@@ -11,20 +12,22 @@
 namespace vadro {
 namespace {
 
-using pruebas::NumeroDeError;
+using namespace pruebas;
 
-TEST(Comunes, FileNamesSplitByTheLastSeparator) {
-    EXPECT_EQ(DirectorioDe("C:\\modelos\\a.b.req"), "C:\\modelos");
-    EXPECT_EQ(DirectorioDe("/home/u/modelo.vdm"), "/home/u");
-    EXPECT_EQ(NombreSinExtension("C:\\modelos\\a.b.req"), "a.b");
-    EXPECT_EQ(NombreSinExtension("C:\\modelos\\sinpunto"), "sinpunto");
-    EXPECT_EQ(NombreSinExtension("/x.y/z"), "z") << "a dot in a folder is not an extension";
-    EXPECT_EQ(ExtensionDe("C:\\modelos\\a.b.req"), "req");
-    EXPECT_EQ(DirectorioDe(""), "");
-    EXPECT_EQ(NombreSinExtension(""), "");
-    EXPECT_EQ(ExtensionDe(""), "");
-    EXPECT_EQ(NumeroDeError([] { (void)DirectorioDe("modelo.vdm"); }), ErrLlamadaNoValida);
-    EXPECT_EQ(NumeroDeError([] { (void)ExtensionDe("C:\\modelos\\x"); }), ErrLlamadaNoValida);
+// File names split by the last separator; a dot in a folder is not an extension, and a name
+// without a folder or an extension asked for one is an invalid call. Intervals show their
+// closed ends in square brackets and an end not given as "?".
+TEST(Comunes, FileNamesSplitByTheLastSeparatorAndIntervalsShowTheirEnds) {
+    const auto texto = [](std::string (*funcion)(const std::string&)) {
+        return [funcion](const Argumentos& a) { return "'" + funcion(a.at(0)) + "'"; };
+    };
+    Tabular("nucleo/comunes.txt", {{"DirectorioDe", texto(DirectorioDe)},
+                                   {"NombreSinExtension", texto(NombreSinExtension)},
+                                   {"ExtensionDe", texto(ExtensionDe)},
+                                   {"TextoIntervalo", [](const Argumentos& a) {
+                                        return TextoIntervalo(ValorLibre(a.at(0)),
+                                                              ValorLibre(a.at(1)));
+                                    }}});
 }
 
 TEST(Comunes, TheDecimalSeparatorFollowsTheLocaleAtTheMomentOfTheCall) {
@@ -57,13 +60,6 @@ TEST(Comunes, TheNumericKeyFilter) {
     EXPECT_EQ(letra.tecla, 0);
     EXPECT_TRUE(letra.pitido);
     EXPECT_TRUE(FiltrarTeclaNumero("", '/').pitido);
-}
-
-TEST(Comunes, TextoIntervalo) {
-    EXPECT_EQ(TextoIntervalo(ValorLibre("<0"), ValorLibre("=100")), "(0,100]");
-    EXPECT_EQ(TextoIntervalo(ValorLibre("=-5.5"), ValorLibre(">7")), "[-5.5,7)");
-    EXPECT_EQ(TextoIntervalo(ValorLibre(), ValorLibre()), "(?,?)");
-    EXPECT_EQ(TextoIntervalo(ValorLibre("=1"), ValorLibre()), "[1,?)");
 }
 
 TEST(Comunes, ComponentRowsAndStages) {
