@@ -1,3 +1,4 @@
+#include "core/core/comunes.h"
 #include "core/core/configuracion.h"
 #include "core/core/error_ejecucion.h"
 #include "core/core/ini.h"
@@ -42,12 +43,9 @@ TEST_F(Configuracion_, DirectoriesReadInAndMinusOneIsEmpty) {
     Escribir(ini, "[DIRECTORIOS]\r\nPROYECTOS=/p\r\nMODELOS=-1\r\nREQUERIMIENTOS=/r\r\n"
                   "COMPONENTES=/c\r\nETAPAS=/e\r\nFUNCION_VALOR=/f\r\n");
     CargarConfiguracion(sesion());
-    EXPECT_EQ(c().DirProyectos, "/p");
-    EXPECT_EQ(c().DirModelos, "");
-    EXPECT_EQ(c().DirRequerimientos, "/r");
-    EXPECT_EQ(c().DirComponentes, "/c");
-    EXPECT_EQ(c().DirEtapas, "/e");
-    EXPECT_EQ(c().DirFuncionValor, "/f");
+    EXPECT_EQ(Unir({c().DirProyectos, "|", c().DirModelos, "|", c().DirRequerimientos, "|",
+                    c().DirComponentes, "|", c().DirEtapas, "|", c().DirFuncionValor}),
+              "/p||/r|/c|/e|/f");
 }
 
 TEST_F(Configuracion_, AFontSizeOutOfRangeIsTakenAndTextIsAConversionError) {
