@@ -1,8 +1,10 @@
 #pragma once
 
+#include "mensajes_arbol.h"
 #include "modelo_prueba.h"
 #include "volcado.h"
 
+#include "core/trees/edicion_componentes.h"
 #include "core/trees/edicion_requerimientos.h"
 #include "soporte/prueba_sesion.h"
 
@@ -12,16 +14,36 @@
 namespace vadro::pruebas {
 
 using Lista = std::vector<std::string>;
-inline const std::string kEliminarNodo = "VADRO PROGRAMADOR: eliminar nodo";
-inline const std::string kPreguntaEliminar =
-    "El elemento selecionado tiene uno o más subnodos. Está seguro que quiere eliminarlo?";
 
-// The requirements window's logic over a fresh session, with shorthand to select by key and to
-// read the tree and the working table.
-class PruebaEdicion : public PruebaSesion {
+// A tree window's logic over a fresh session, with shorthand to select by key and to read the
+// tree.
+template <typename Edicion> class PruebaArbol : public PruebaSesion {
 protected:
-    EdicionRequerimientos ed{SesionActual()};
+    Edicion ed{SesionActual()};
 
+    NodoArbol* N(const std::string& clave) { return ed.tvwArbol.NodoPorClave(clave); }
+    void Sel(const std::string& clave) { ed.tvwArbol.Seleccionar(N(clave)); }
+    std::string Claves() { return Forma(ed.tvwArbol); }
+    std::string Textos() {
+        return Forma(ed.tvwArbol, [](const NodoArbol& n) { return n.Text(); });
+    }
+    // The deletion of the selected node, the question of a node with children answered so.
+    void Eliminar(Respuesta respuesta) {
+        mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, respuesta);
+        ed.Eliminar();
+    }
+    // A drag of the node onto the target, up to the drop.
+    void Arrastrar(const std::string& nodo, const std::string& destino) {
+        ed.PulsarRaton(N(nodo));
+        ed.MoverRaton(true);
+        ed.ArrastrarSobre(N(nodo));
+        ed.ArrastrarSobre(N(destino));
+    }
+};
+
+// The requirements window's logic, with shorthand to read the working table too.
+class PruebaEdicion : public PruebaArbol<EdicionRequerimientos> {
+protected:
     // Opened, the tree is M 1, R1 2, C1R1 3 with the indicators i1 to i3 at 4 to 6, C2R1 7 (with
     // the subcriterion S1C2R1 8 if asked) and R2.
     void Abrir(bool conSubcriterio = false, bool permiso = false) {
@@ -40,12 +62,6 @@ protected:
         sesion().modelo = std::move(modelo);
         ed.Abrir();
     }
-    NodoArbol* N(const std::string& clave) { return ed.tvwArbol.NodoPorClave(clave); }
-    void Sel(const std::string& clave) { ed.tvwArbol.Seleccionar(N(clave)); }
-    std::string Claves() { return Forma(ed.tvwArbol); }
-    std::string Textos() {
-        return Forma(ed.tvwArbol, [](const NodoArbol& n) { return n.Text(); });
-    }
     // Each node as key, "#" and tag, or "#-" without one.
     std::string Tags() {
         return Forma(ed.tvwArbol, [](const NodoArbol& n) {
@@ -57,13 +73,6 @@ protected:
     std::string Pesos(const std::string& clave) {
         const NodoEdicion& r = Reg(clave);
         return (r.Saaty.Presente() ? std::to_string(r.Saaty.Cota()) : "-") + "/" + r.Peso.Texto();
-    }
-    // A drag of the node onto the target, up to the drop.
-    void Arrastrar(const std::string& nodo, const std::string& destino) {
-        ed.PulsarRaton(N(nodo));
-        ed.MoverRaton(true);
-        ed.ArrastrarSobre(N(nodo));
-        ed.ArrastrarSobre(N(destino));
     }
 };
 

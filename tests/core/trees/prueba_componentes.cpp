@@ -1,8 +1,6 @@
-#include "volcado.h"
+#include "edicion_prueba.h"
 
-#include "core/trees/edicion_componentes.h"
 #include "soporte/componentes_etapas.h"
-#include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
 
@@ -10,24 +8,12 @@ namespace vadro {
 namespace {
 
 using namespace pruebas;
-using Lista = std::vector<std::string>;
-const std::string kEliminarNodo = "VADRO PROGRAMADOR: eliminar nodo";
-const std::string kPreguntaEliminar =
-    "El elemento selecionado tiene uno o más subnodos. Está seguro que quiere eliminarlo?";
-
 // The components window's logic opened on Bombas (Motor, Carcasa) and Tuberías (none).
-class Componentes : public PruebaSesion {
+class Componentes : public PruebaArbol<EdicionComponentes> {
 protected:
-    EdicionComponentes ed{SesionActual()};
     void Abrir() {
         PonerComponentes(sesion().modelo, {{"Bombas", {"Motor", "Carcasa"}}, {"Tuberías", {}}});
         ed.Abrir();
-    }
-    NodoArbol* N(const std::string& clave) { return ed.tvwArbol.NodoPorClave(clave); }
-    void Sel(const std::string& clave) { ed.tvwArbol.Seleccionar(N(clave)); }
-    std::string Claves() { return Forma(ed.tvwArbol); }
-    std::string Textos() {
-        return Forma(ed.tvwArbol, [](const NodoArbol& n) { return n.Text(); });
     }
 };
 
@@ -107,13 +93,11 @@ TEST_F(Componentes, EveryEditMarksTheModelAndNewKeysFollowTheCounter) {
 TEST_F(Componentes, RemovalAsksForAComponentWithOptionsAndRenumbers) {
     Abrir();
     Sel("Co1");
-    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::No);
-    ed.Eliminar();
+    Eliminar(Respuesta::No);
     EXPECT_EQ(Claves(), "Co 1[Sc 2,Sc 3];Co 4") << "a No keeps it, and the keys are renewed";
     EXPECT_EQ(ed.tvwArbol.Seleccionado(), N("Co 4")) << "the next sibling is selected";
-    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::Si);
     Sel("Co 1");
-    ed.Eliminar();
+    Eliminar(Respuesta::Si);
     EXPECT_EQ(Claves(), "Co 1");
     EXPECT_EQ(ed.Selector(1).Nombres, Lista{"Tuberías"});
     Sel("Co 1");
@@ -137,9 +121,7 @@ TEST_F(Componentes, PasteAndDropGoOnlyOneLevelDownAndTheDropAsksNothing) {
     EXPECT_EQ(Textos(), "Bombas[Motor,Carcasa];Tuberías[Carcasa]");
 
     sesion().modelo.Modificado = false;
-    ed.PulsarRaton(N("Sc 2"));
-    ed.MoverRaton(true);
-    ed.ArrastrarSobre(N("Sc 3"));
+    Arrastrar("Sc 2", "Sc 3");
     EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), nullptr);
     ed.ArrastrarSobre(N("Co 4"));
     EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), N("Co 4"));

@@ -25,15 +25,10 @@ TEST_F(Escenarios, ANewModelBuiltCopiedPastedDraggedAndKeptThroughANo) {
     ed.Pegar();
     EXPECT_EQ(Claves(), "M 1[R 2[C 3[I 5,I 4],C 6[I 7,I 8],C 9[I 10,I 11]]]");
     Arrastrar("I 10", "C 3");
-    mensajes.Esperar("VADRO PROGRAMADOR: mover nodo",
-                     "En caso de haber sido introducidas, se borrarán las matrices de pesos "
-                     "correspondientes a los nodos:\n- Criterio\n- Criterio\n\nEstá usted "
-                     "seguro de querer mover el elemento seleccionado?",
-                     Respuesta::Si);
+    mensajes.Esperar(kMoverNodo, PreguntaMover("Criterio", "Criterio"), Respuesta::Si);
     ed.Soltar();
     Sel("C 6");
-    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::No);
-    ed.Eliminar();
+    Eliminar(Respuesta::No);
     EXPECT_EQ(Tags(), "M 1#1[R 2#2[C 3#3[I 5#5,I 4#4,I 10#7],C 6#8[I 7#-,I 8#-],C 9#9[I 11#6]]]");
     EXPECT_EQ(Textos(), "Modelo presa[Requerimiento[Criterio[Indicador,Indicador,Indicador],"
                         "Criterio[Indicador,Indicador],Criterio[Indicador]]]");

@@ -38,8 +38,7 @@ TEST_F(Escritura, ChildrenAreTakenAsOfTheKindOfTheFirstAndTheRootAloneLeavesNone
     EXPECT_EQ(c2.Subcriterios(2).Clave + c2.Subcriterios(2).NumIndicadores.Texto(), "R1C2S20");
     EXPECT_EQ(sesion().modelo.Requerimientos(1).Criterios(3).Nombre, "Criterio");
     Sel("R1");
-    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::Si);
-    ed.Eliminar();
+    Eliminar(Respuesta::Si);
     Sel("R 2"); // renumbered by the deletion
     ed.Eliminar();
     ed.LlamaLlenarRequerimientos();
@@ -67,8 +66,7 @@ TEST_F(Escritura, APastedNodeGetsItsRecordAndItsSlotKeepsWhatItHeld) {
 TEST_F(Escritura, ARowOfTheWrongWidthStopsACriterionsWeightsButNotAnIndicators) {
     Abrir();
     Sel("C1R1");
-    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::Si);
-    ed.Eliminar();
+    Eliminar(Respuesta::Si);
     ed.LlamaLlenarRequerimientos();
     const NodoCriterio& c = sesion().modelo.Requerimientos(1).Criterios(1);
     EXPECT_EQ(c.Nombre + "|" + c.Descripcion, "C2|d:C2");

@@ -9,15 +9,6 @@ namespace {
 using namespace pruebas;
 using Eventos = PruebaEdicion;
 
-const std::string kMover = "VADRO PROGRAMADOR: mover nodo";
-
-std::string PreguntaMover(const std::string& viejo, const std::string& nuevo) {
-    return "En caso de haber sido introducidas, se borrarán las matrices de pesos "
-           "correspondientes a los nodos:\n- " +
-           viejo + "\n- " + nuevo +
-           "\n\nEstá usted seguro de querer mover el elemento seleccionado?";
-}
-
 TEST_F(Eventos, TheHighlightFollowsTheRuleAndIsTestedOnlyOnANewNode) {
     Abrir(true);
     Arrastrar("I1C1R1", "C2R1");
@@ -46,7 +37,7 @@ TEST_F(Eventos, ADropOnTheOwnParentMovesLastAndKeepsEveryWeight) {
 TEST_F(Eventos, ADropElsewhereAsksAndOnYesErasesOldThenNewSiblings) {
     Abrir();
     Arrastrar("I1C1R1", "C2R1");
-    mensajes.Esperar(kMover, PreguntaMover("C1", "C2"), Respuesta::No);
+    mensajes.Esperar(kMoverNodo, PreguntaMover("C1", "C2"), Respuesta::No);
     ed.Soltar();
     EXPECT_EQ(Claves(), "M[R1[C1R1[I1C1R1,I2C1R1,I3C1R1],C2R1],R2]");
     EXPECT_EQ(Pesos("I2C1R1"), "3/10");
@@ -58,7 +49,7 @@ TEST_F(Eventos, ADropElsewhereAsksAndOnYesErasesOldThenNewSiblings) {
     ed.Pegar();
     ed.Pegar();
     Arrastrar("I 10", "C 13");
-    mensajes.Esperar(kMover, PreguntaMover("C1", "C1"), Respuesta::Si);
+    mensajes.Esperar(kMoverNodo, PreguntaMover("C1", "C1"), Respuesta::Si);
     ed.Soltar();
     EXPECT_EQ(Tags().substr(Tags().find("R 8")),
               "R 8#8[C 9#-[I 11#9,I 12#10],C 13#-[I 14#11,I 15#12,I 16#13,I 10#14]]]");

@@ -73,16 +73,14 @@ TEST_F(Operaciones, InsertionsAddADefaultSiblingAndLeaveSelectionAndSelectorsAlo
 TEST_F(Operaciones, DeletionAsksForASubtreeErasesWeightsFirstAndRenumbers) {
     Abrir();
     ed.SoltarRaton(N("C1R1"));
-    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::No);
-    ed.Eliminar();
+    Eliminar(Respuesta::No);
     EXPECT_EQ(Claves(), "M 1[R 2[C 3[I 4,I 5,I 6],C 7],R 8]");
     EXPECT_TRUE(Reg("R 2").PesosBorrados);
     EXPECT_EQ(Pesos("C 3") + Pesos("C 7") + Pesos("I 4"), "2/2/3/10");
     EXPECT_EQ(ed.tvwArbol.Seleccionado(), N("C 7")) << "the next sibling, for want of a previous";
     EXPECT_EQ(ed.Selector(2).Seleccion, 2);
     Sel("C 3");
-    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::Si);
-    ed.Eliminar();
+    Eliminar(Respuesta::Si);
     EXPECT_EQ(Tags(), "M 1#1[R 2#2[C 3#7],R 4#8]");
     EXPECT_EQ(ed.ContadorClaves, 4);
     Sel("M 1");

@@ -123,11 +123,8 @@ TEST_F(Requerimientos, DraggingACriterionToAnotherRequirementAsksAndLosesTheWeig
     NuevoModelo();
     sesion().modelo = ModeloCorrecto();
     QWidget* r = AbrirPaso(1, "frmRequerimientos");
-    const std::string pregunta =
-        "En caso de haber sido introducidas, se borrarán las matrices de pesos correspondientes "
-        "a los nodos:\n- Económico\n- Social\n\nEstá usted seguro de querer mover el elemento "
-        "seleccionado?";
-    mensajes.Esperar("VADRO PROGRAMADOR: mover nodo", pregunta, Respuesta::No);
+    const std::string pregunta = PreguntaMover("Económico", "Social");
+    mensajes.Esperar(kMoverNodo, pregunta, Respuesta::No);
     Arrastrar(r, "C1R1", "R2");
     const std::string antes = "Modelo [Económico[Inversión[Coste,Plazo],Explotación[Coste,Plazo]],"
                               "Social[Empleo[Coste,Plazo],Seguridad[Coste,Plazo]]]";
@@ -136,7 +133,7 @@ TEST_F(Requerimientos, DraggingACriterionToAnotherRequirementAsksAndLosesTheWeig
     EXPECT_EQ(Mostrado(r), antes);
     EXPECT_EQ(Arbol(r)->viewport()->cursor().shape(), Qt::ArrowCursor) << "the drag icon goes";
 
-    mensajes.Esperar("VADRO PROGRAMADOR: mover nodo", pregunta, Respuesta::Si);
+    mensajes.Esperar(kMoverNodo, pregunta, Respuesta::Si);
     Arrastrar(r, "C1R1", "R2");
     EXPECT_EQ(Mostrado(r), "Modelo [Económico[Explotación[Coste,Plazo]],Social[Empleo[Coste,"
                            "Plazo],Seguridad[Coste,Plazo],Inversión[Coste,Plazo]]]");
