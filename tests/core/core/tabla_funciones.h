@@ -21,6 +21,10 @@ inline std::string Exacto(double numero) {
     return std::string(texto, std::to_chars(texto, texto + sizeof texto, numero).ptr);
 }
 
+inline std::string SiNo(bool valor) {
+    return valor ? "yes" : "no";
+}
+
 // A table of functions kept in a data file: each case names the function in its first field
 // and gives its arguments in the others; its outcome is what the function makes of them, or
 // "error" and the number of the runtime error it raises.

@@ -1,3 +1,4 @@
+#include "../core/tabla_funciones.h"
 #include "modelo_prueba.h"
 #include "volcado.h"
 
@@ -26,23 +27,15 @@ Modelo ModeloMixto() {
         "Mi MODELO ÑANDÚ × Œ");
 }
 
+// Whether a node of a level may be pasted or dropped on a target ('' for the empty place).
 TEST(Niveles, PasteAndDropTargetsFollowTheLevelTable) {
     Arbol a;
     Construir(a, "M[R[C1[I1],C2[S[I2]],C3]]");
-    const struct {
-        int nivel;
-        const char* destino;
-        bool permitido;
-    } casos[] = {{1, "M", true},   {1, "R", false}, {2, "R", true},   {2, "C3", false},
-                 {3, "C2", true},  {3, "C3", true}, {3, "C1", false}, {3, "S", false},
-                 {4, "S", true},   {4, "C1", true}, {4, "C3", true},  {4, "C2", false},
-                 {4, "I1", false}, {5, "I1", true}, {6, "M", true},   {0, "M", false}};
-    for (const auto& caso : casos) {
-        EXPECT_EQ(DestinoPermitido(caso.nivel, a.NodoPorClave(caso.destino)), caso.permitido)
-            << caso.nivel << " on " << caso.destino;
-    }
-    EXPECT_TRUE(DestinoPermitido(1, nullptr));
-    EXPECT_FALSE(DestinoPermitido(2, nullptr));
+    Tabular("arboles/destinos.txt",
+            {{"DestinoPermitido", [&](const Argumentos& x) {
+                  const NodoArbol* destino = x.at(1).empty() ? nullptr : a.NodoPorClave(x.at(1));
+                  return SiNo(DestinoPermitido(std::stoi(x.at(0)), destino));
+              }}});
 }
 
 TEST(LlenarArbol, WalksDepthFirstWithSubcriteriaBeforeDirectIndicators) {

@@ -1,5 +1,6 @@
 #include "edicion_prueba.h"
 
+#include "../core/tabla_funciones.h"
 #include "soporte/componentes_etapas.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@ namespace vadro {
 namespace {
 
 using namespace pruebas;
+
 // The components window's logic opened on Bombas (Motor, Carcasa) and Tuberías (none).
 class Componentes : public PruebaArbol<EdicionComponentes> {
 protected:
@@ -17,35 +19,20 @@ protected:
     }
 };
 
+// Each key's level, and whether a component and an option may go under it. A key of no level
+// counts as level 0, one above a component, as the rule reads; no such node stands in this
+// tree. The empty place ('') takes a component only.
 TEST(NivelesComponentes, TwoLettersGiveTheLevelAndOnlyOneLevelDownIsAllowed) {
     Arbol arbol;
-    const auto nodo = [&arbol](const char* clave) {
-        return arbol.Añadir(nullptr, Relacion::UltimoHijo, clave, clave, 0);
-    };
-    struct Caso {
-        const char* clave;
-        int nivel;
-        bool componenteDebajo, subcomponenteDebajo;
-    };
-    const Caso casos[] = {
-        {"Co1", 1, false, true},
-        {"Co 7", 1, false, true},
-        {"Sc2Co1", 2, false, false},
-        // A key of no level counts as level 0, one above a component, as the rule reads;
-        // no such node stands in this tree.
-        {"C1R1", 0, true, false},
-        {"S1", 0, true, false},
-        {"co1", 0, true, false},
-    };
-    for (const Caso& c : casos) {
-        NodoArbol* n = nodo(c.clave);
-        EXPECT_EQ(NivelComponentesDe(n), c.nivel) << c.clave;
-        EXPECT_EQ(DestinoComponentesPermitido(1, n), c.componenteDebajo) << c.clave;
-        EXPECT_EQ(DestinoComponentesPermitido(2, n), c.subcomponenteDebajo) << c.clave;
-    }
-    EXPECT_EQ(NivelComponentesDe(nullptr), 0);
-    EXPECT_TRUE(DestinoComponentesPermitido(1, nullptr)) << "the empty place takes a component";
-    EXPECT_FALSE(DestinoComponentesPermitido(2, nullptr));
+    Tabular("arboles/niveles_componentes.txt",
+            {{"Nivel", [&](const Argumentos& a) {
+                  const NodoArbol* n = a.at(0).empty() ? nullptr
+                                                       : arbol.Añadir(nullptr, Relacion::UltimoHijo,
+                                                                      a.at(0), a.at(0), 0);
+                  return std::to_string(NivelComponentesDe(n)) + ", a component below " +
+                         SiNo(DestinoComponentesPermitido(1, n)) + ", an option below " +
+                         SiNo(DestinoComponentesPermitido(2, n));
+              }}});
 }
 
 TEST_F(Componentes, TheLoadKeysByPositionAndSelectsTheFirstComponent) {
@@ -108,13 +95,10 @@ TEST_F(Componentes, RemovalAsksForAComponentWithOptionsAndRenumbers) {
     EXPECT_TRUE(ed.Selector(1).ContadorHabilitado) << "a component can always be added";
 }
 
-TEST_F(Componentes, PasteAndDropGoOnlyOneLevelDownAndTheDropAsksNothing) {
+TEST_F(Componentes, APasteAndADropGoOnlyOneLevelDownAndTheDropAsksNothing) {
     Abrir();
     Sel("Sc2Co1");
     ed.Copiar();
-    EXPECT_TRUE(ed.MenuContextual(N("Co2")).PegarHabilitado);
-    EXPECT_FALSE(ed.MenuContextual(N("Sc1Co1")).PegarHabilitado);
-    EXPECT_FALSE(ed.MenuContextual(nullptr).PegarHabilitado);
     ed.SoltarRaton(N("Co2"));
     ed.Pegar();
     EXPECT_EQ(Claves(), "Co 1[Sc 2,Sc 3];Co 4[Sc 5]");
@@ -131,30 +115,38 @@ TEST_F(Componentes, PasteAndDropGoOnlyOneLevelDownAndTheDropAsksNothing) {
     EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), nullptr);
 }
 
-TEST_F(Componentes, TheMenuShowsByTheTarget) {
-    Abrir();
-    struct Caso {
-        const char* clave; // empty: no node
-        bool insertar, añadirComp, añadirSc;
-        const char* eliminar;
-    };
-    const Caso casos[] = {
-        {"", false, true, false, "&Eliminar componente"},
-        {"Co1", true, false, true, "&Eliminar componente"},
-        {"Sc1Co1", true, false, false, "&Eliminar subcomponente"},
-    };
-    for (const Caso& c : casos) {
-        const MenuArbolComponentes m = ed.MenuContextual(*c.clave ? N(c.clave) : nullptr);
-        const bool nodo = *c.clave != '\0';
-        EXPECT_EQ(m.InsertarVisible, c.insertar) << c.clave;
-        EXPECT_EQ(m.EliminarVisible, nodo) << c.clave;
-        EXPECT_EQ(m.EliminarTitulo, c.eliminar) << c.clave;
-        EXPECT_EQ(m.AñadirCompVisible, c.añadirComp) << c.clave;
-        EXPECT_EQ(m.AñadirScVisible, c.añadirSc) << c.clave;
-        EXPECT_EQ(m.CopiarVisible, nodo) << c.clave;
-        EXPECT_EQ(m.RenombrarVisible, nodo) << c.clave;
-        EXPECT_TRUE(m.PegarVisible) << c.clave;
+// The entries of the menu that show, "~" before a paste that is off, and the deletion's caption
+// (set even when the entry is hidden).
+std::string Entradas(const MenuArbolComponentes& m) {
+    std::string texto;
+    for (const auto& [visible, nombre] : {std::pair{m.InsertarVisible, "Insertar"},
+                                          {m.EliminarVisible, "Eliminar"},
+                                          {m.AñadirCompVisible, "AñadirComp"},
+                                          {m.AñadirScVisible, "AñadirSc"},
+                                          {m.CopiarVisible, "Copiar"},
+                                          {m.RenombrarVisible, "Renombrar"}}) {
+        texto += visible ? std::string(nombre) + " " : "";
     }
+    texto += m.PegarVisible ? (m.PegarHabilitado ? "Pegar" : "~Pegar") : "";
+    return texto + ", '" + m.EliminarTitulo + "'";
+}
+
+TEST_F(Componentes, TheMenuShowsByTheTargetAndAPasteGoesOnlyOneLevelDown) {
+    Abrir();
+    Acta acta;
+    const auto menu = [&](const std::string& cuando, const char* clave) {
+        acta.Fila(cuando + "'" + clave + "'",
+                  Entradas(ed.MenuContextual(*clave ? N(clave) : nullptr)));
+    };
+    for (const char* clave : {"", "Co1", "Sc1Co1"}) {
+        menu("", clave);
+    }
+    Sel("Sc2Co1");
+    ed.Copiar();
+    for (const char* clave : {"Co2", "Sc1Co1", ""}) {
+        menu("an option copied, ", clave);
+    }
+    acta.Comparar("arboles/menu_componentes.txt");
 }
 
 TEST_F(Componentes, TheCountersAddAndRemoveTheShownNodeAndTypingRenames) {

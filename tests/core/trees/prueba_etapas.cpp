@@ -1,3 +1,5 @@
+#include "../core/tabla_funciones.h"
+
 #include "core/trees/edicion_etapas.h"
 #include "soporte/acta.h"
 #include "soporte/componentes_etapas.h"
@@ -25,19 +27,12 @@ protected:
     }
 };
 
+// A new stage against the list " etapa", "Diseño", "obra civil".
 TEST(EtapaRepetida, TheComparisonTrimsBlanksAndIgnoresCase) {
     const Lista lista = {" etapa", "Diseño", "obra civil"};
-    struct Caso {
-        const char* nombre;
-        bool repetida;
-    };
-    const Caso casos[] = {
-        {"ETAPA ", true},     {"etapa", true},        {"DISEÑO", true},  {"  diseño  ", true},
-        {"Obra Civil", true}, {"obra  civil", false}, {"etapas", false}, {"\tetapa", false},
-    };
-    for (const Caso& c : casos) {
-        EXPECT_EQ(EtapaRepetida(lista, c.nombre), c.repetida) << c.nombre;
-    }
+    Tabular("arboles/etapa_repetida.txt", {{"EtapaRepetida", [&](const Argumentos& a) {
+                                                return SiNo(EtapaRepetida(lista, a.at(0)));
+                                            }}});
 }
 
 TEST_F(Etapas, TheButtonsFollowTheSelection) {
