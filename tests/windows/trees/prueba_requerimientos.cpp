@@ -35,12 +35,16 @@ TEST_F(Requerimientos, AModelBuiltThroughTheWindowsIsWhatTheFileHolds) {
     QWidget* r = AbrirPaso(1, "frmRequerimientos");
     EXPECT_EQ(Mostrado(r), "Modelo ");
 
+    // Each node added from the menu over another and named.
+    const auto añadir = [&](std::initializer_list<std::array<const char*, 3>> pasos) {
+        for (const auto& [nodo, entrada, nombre] : pasos) {
+            Elegir(*MenuSobre(r, nodo, "mnuArbolR"), entrada);
+            Renombrar(r, nombre);
+        }
+    };
     Flecha(r, 1, true);
     Renombrar(r, "Seguridad");
-    Elegir(*MenuSobre(r, "R 2", "mnuArbolR"), "mnuAñadirC");
-    Renombrar(r, "Estructura");
-    Elegir(*MenuSobre(r, "C 3", "mnuArbolR"), "mnuAñadirI");
-    Renombrar(r, "Resistencia");
+    añadir({{"R 2", "mnuAñadirC", "Estructura"}, {"C 3", "mnuAñadirI", "Resistencia"}});
     Teclas(Hijo<QPlainTextEdit>(*r, "txtDescripcion"), QStringLiteral("MPa a compresión"));
     EXPECT_EQ(Mostrado(r), "Modelo [Seguridad[Estructura[Resistencia]]]");
     auto* cmdFuncion = Hijo<QPushButton>(*r, "cmdFuncion");
@@ -60,18 +64,12 @@ TEST_F(Requerimientos, AModelBuiltThroughTheWindowsIsWhatTheFileHolds) {
     Teclear(Marco(r, 4)->cbbNodos->lineEdit(), "Flecha");
     EXPECT_EQ(Marco(r, 4)->lblNumNodos->text().toStdString(), "2");
 
-    Elegir(*MenuSobre(r, "M", "mnuArbolR"), "mnuAñadirR");
-    Renombrar(r, "Coste");
-    Elegir(*MenuSobre(r, "R 6", "mnuArbolR"), "mnuAñadirC");
-    Renombrar(r, "Inversión");
-    Elegir(*MenuSobre(r, "C 7", "mnuArbolR"), "mnuAñadirS");
-    Renombrar(r, "Obra");
-    Elegir(*MenuSobre(r, "S 8", "mnuArbolR"), "mnuAñadirI");
-    Renombrar(r, "Precio");
-    Elegir(*MenuSobre(r, "R 6", "mnuArbolR"), "mnuAñadirC");
-    Renombrar(r, "Mantenimiento");
-    Elegir(*MenuSobre(r, "C 10", "mnuArbolR"), "mnuAñadirI");
-    Renombrar(r, "Anual");
+    añadir({{"M", "mnuAñadirR", "Coste"},
+            {"R 6", "mnuAñadirC", "Inversión"},
+            {"C 7", "mnuAñadirS", "Obra"},
+            {"S 8", "mnuAñadirI", "Precio"},
+            {"R 6", "mnuAñadirC", "Mantenimiento"},
+            {"C 10", "mnuAñadirI", "Anual"}});
     EXPECT_EQ(Mostrado(r), "Modelo [Seguridad[Estructura[Resistencia,Flecha]],Coste[Inversión["
                            "Obra[Precio]],Mantenimiento[Anual]]]");
     Hijo<QPushButton>(*r, "cmdAceptar")->click();
