@@ -4,6 +4,7 @@
 #include "soporte/acta.h"
 
 #include <charconv>
+#include <deque>
 #include <functional>
 #include <map>
 #include <string>
@@ -27,9 +28,13 @@ inline std::string SiNo(bool valor) {
 
 // A table of functions kept in a data file: each case names the function in its first field
 // and gives its arguments in the others; its outcome is what the function makes of them, or
-// "error" and the number of the runtime error it raises.
-inline void Tabular(const std::string& datos, const std::map<std::string, Funcion>& funciones) {
+// "error" and the number of the runtime error it raises, then the messages it showed (with
+// their icons and buttons), answered in turn by `respuestas`.
+inline void Tabular(const std::string& datos, const std::map<std::string, Funcion>& funciones,
+                    std::deque<Respuesta> respuestas = {}) {
     Acta acta;
+    acta.iconos = true;
+    acta.respuestas = std::move(respuestas);
     for (const Caso& caso : Casos(datos)) {
         const Argumentos argumentos(caso.campos.begin() + 1, caso.campos.end());
         std::string salida;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../core/tabla_funciones.h"
 #include "mensajes_arbol.h"
 #include "modelo_prueba.h"
 #include "volcado.h"
@@ -73,6 +74,94 @@ protected:
     std::string Pesos(const std::string& clave) {
         const NodoEdicion& r = Reg(clave);
         return (r.Saaty.Presente() ? std::to_string(r.Saaty.Cota()) : "-") + "/" + r.Peso.Texto();
+    }
+    // The working tree, each node as key, "#", the row of its record and its weights
+    // ("I1C1R1#4 3/10"), or "#-" without a record; then the selected node, the last number
+    // drawn for a key and the current row of the working table.
+    std::string Estado() {
+        const NodoArbol* elegido = ed.tvwArbol.Seleccionado();
+        return Forma(ed.tvwArbol,
+                     [this](const NodoArbol& n) {
+                         return n.Key() + "#" +
+                                (n.Tag() ? std::to_string(*n.Tag()) + " " + Pesos(n.Key()) : "-");
+                     }) +
+               " | selected " + (elegido ? elegido->Key() : "none") + " | key " +
+               std::to_string(ed.ContadorClaves) + " | row " +
+               std::to_string(sesion().NodoEdicionActual);
+    }
+    // Selector i: its names with the chosen one in brackets, then its counter.
+    std::string Selector(int i) {
+        const SelectorNivel& s = ed.Selector(i);
+        std::string texto;
+        for (std::size_t k = 0; k < s.Nombres.size(); ++k) {
+            const bool elegido = static_cast<int>(k) + 1 == s.Seleccion;
+            texto += (elegido ? "[" : "") + s.Nombres[k] + (elegido ? "] " : " ");
+        }
+        return texto + std::to_string(s.Contador);
+    }
+    // Works the steps of a data file on the logic: each names an operation and its arguments
+    // and gives the working tree after it as Estado does, or names a view of the state and
+    // gives it. An operation on the selection first selects the node it names, if any (by key,
+    // '' for none). The questions are answered in turn by `respuestas`.
+    void Pasos(const std::string& datos, std::deque<Respuesta> respuestas = {}) {
+        const auto nodo = [this](const std::string& clave) {
+            return clave.empty() ? nullptr : N(clave);
+        };
+        const auto hacer = [this](std::function<void(const Argumentos&)> operacion) -> Funcion {
+            return [this, operacion](const Argumentos& a) {
+                operacion(a);
+                return Estado();
+            };
+        };
+        const auto sobre = [&](std::function<void()> operacion) {
+            return hacer([&, operacion](const Argumentos& a) {
+                if (!a.empty()) {
+                    ed.tvwArbol.Seleccionar(nodo(a.at(0)));
+                }
+                operacion();
+            });
+        };
+        const auto entero = [](const Argumentos& a) {
+            return static_cast<int16_t>(std::stoi(a.at(0)));
+        };
+        Tabular(
+            datos,
+            {{"Sel", sobre([] {})},
+             {"SoltarRaton", hacer([&](const Argumentos& a) { ed.SoltarRaton(nodo(a.at(0))); })},
+             {"AñadirRequerimiento", sobre([&] { ed.AñadirRequerimiento("Requerimiento"); })},
+             {"AñadirCriterio", sobre([&] { ed.AñadirCriterio("Criterio"); })},
+             {"AñadirSubcriterio", sobre([&] { ed.AñadirSubcriterio("Subcriterio"); })},
+             {"AñadirIndicador", sobre([&] { ed.AñadirIndicador("Indicador"); })},
+             {"InsertarAntes", sobre([&] { ed.InsertarAntes(); })},
+             {"InsertarDespues", sobre([&] { ed.InsertarDespues(); })},
+             {"Eliminar", sobre([&] { ed.Eliminar(); })},
+             {"Copiar", sobre([&] { ed.Copiar(); })},
+             {"Pegar", sobre([&] { ed.Pegar(); })},
+             {"Reordenar", sobre([&] { ed.Reordenar(); })},
+             {"CopiaNodo", hacer([&](const Argumentos& a) {
+                  ed.CopiaNodo(ed.tvwArbol, N(a.at(0)), ed.tvwArbol, N(a.at(1)));
+              })},
+             {"ContadorClaves", hacer([&](const Argumentos& a) { ed.ContadorClaves = entero(a); })},
+             {"SiguienteNodoEdicion",
+              hacer([&](const Argumentos& a) { ed.SiguienteNodoEdicion = entero(a); })},
+             {"Estado", [this](const Argumentos&) { return Estado(); }},
+             {"Textos", [this](const Argumentos&) { return Textos(); }},
+             {"Copia", [this](const Argumentos&) { return Forma(ed.tvwCopia); }},
+             {"Selector", [&](const Argumentos& a) { return Selector(entero(a)); }},
+             {"Registro",
+              [this](const Argumentos& a) {
+                  const NodoEdicion& r = Reg(a.at(0));
+                  return "'" + r.Descripcion + "'" +
+                         (r.Calculo == CalculoDirecto ? " direct" : " pairwise") +
+                         (r.PesosBorrados ? ", weights erased" : "");
+              }},
+             {"Marcos",
+              [this](const Argumentos&) {
+                  return "'" + ed.Descripcion + "' " + ed.TitulosMarcos[0] + "|" +
+                         ed.TitulosMarcos[1] + "|" + ed.TitulosMarcos[2] + "|" +
+                         ed.TitulosMarcos[3];
+              }}},
+            std::move(respuestas));
     }
 };
 
