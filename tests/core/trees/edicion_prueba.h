@@ -77,7 +77,7 @@ protected:
     }
     // The working tree, each node as key, "#", the row of its record and its weights
     // ("I1C1R1#4 3/10"), or "#-" without a record; then the selected node, the last number
-    // drawn for a key and the current row of the working table.
+    // drawn for a key, the current row of the working table and the drop target shown, if any.
     std::string Estado() {
         const NodoArbol* elegido = ed.tvwArbol.Seleccionado();
         return Forma(ed.tvwArbol,
@@ -87,7 +87,9 @@ protected:
                      }) +
                " | selected " + (elegido ? elegido->Key() : "none") + " | key " +
                std::to_string(ed.ContadorClaves) + " | row " +
-               std::to_string(sesion().NodoEdicionActual);
+               std::to_string(sesion().NodoEdicionActual) +
+               (ed.tvwArbol.ResaltadoDestino() ? " | drop " + ed.tvwArbol.ResaltadoDestino()->Key()
+                                               : "");
     }
     // Selector i: its names with the chosen one in brackets, then its counter.
     std::string Selector(int i) {
@@ -144,6 +146,34 @@ protected:
              {"ContadorClaves", hacer([&](const Argumentos& a) { ed.ContadorClaves = entero(a); })},
              {"SiguienteNodoEdicion",
               hacer([&](const Argumentos& a) { ed.SiguienteNodoEdicion = entero(a); })},
+             {"Arrastrar", hacer([&](const Argumentos& a) { Arrastrar(a.at(0), a.at(1)); })},
+             {"ArrastrarSobre", hacer([&](const Argumentos& a) { ed.ArrastrarSobre(N(a.at(0))); })},
+             {"Soltar", hacer([&](const Argumentos&) { ed.Soltar(); })},
+             {"Quitar", hacer([&](const Argumentos& a) { ed.tvwArbol.Quitar(N(a.at(0))); })},
+             {"Tecla",
+              [&](const Argumentos& a) {
+                  const PeticionTecla peticion = ed.Tecla(entero(a));
+                  return (peticion == PeticionTecla::EditarEtiqueta ? "edit the label | " : "") +
+                         Estado();
+              }},
+             {"Caracter", hacer([&](const Argumentos& a) { ed.Caracter(entero(a)); })},
+             {"CambiarDescripcion",
+              hacer([&](const Argumentos& a) { ed.CambiarDescripcion(a.at(0)); })},
+             {"Renombrar",
+              [&](const Argumentos& a) {
+                  return std::string(ed.Renombrar(a.at(0)) ? "accepted" : "refused");
+              }},
+             {"ClicFuncion",
+              [&](const Argumentos&) {
+                  const std::optional<std::string> indicador = ed.ClicFuncion();
+                  return (indicador ? "'" + *indicador + "'" : "none") + " | row " +
+                         std::to_string(sesion().NodoEdicionActual);
+              }},
+             {"Arrastre",
+              [this](const Argumentos&) {
+                  return "level " + std::to_string(ed.NivelArrastre) + ", current " +
+                         (ed.NodoActual ? ed.NodoActual->Key() : "none");
+              }},
              {"Estado", [this](const Argumentos&) { return Estado(); }},
              {"Textos", [this](const Argumentos&) { return Textos(); }},
              {"Copia", [this](const Argumentos&) { return Forma(ed.tvwCopia); }},
