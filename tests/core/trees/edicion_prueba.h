@@ -16,6 +16,42 @@ namespace vadro::pruebas {
 
 using Lista = std::vector<std::string>;
 
+// A node of the model: key, name, description, weight and the width of its row.
+inline std::string Cabecera(const CabeceraNodo& n) {
+    return n.Clave + " '" + n.Nombre + "' '" + n.Descripcion + "' " + n.Peso.Texto() + "/" +
+           (n.Saaty.Presente() ? std::to_string(n.Saaty.Cota()) : "-");
+}
+
+// The count of a list of the model and its elements in braces.
+template <typename T, typename F>
+std::string Elementos(const ValorLibre& cuenta, const Arreglo<T>& arreglo, F elemento) {
+    std::string texto = cuenta.Texto() + "{";
+    for (int i = 1; arreglo.Presente() && i <= arreglo.Cota(); ++i) {
+        texto += (i > 1 ? ", " : "") + elemento(arreglo(i));
+    }
+    return texto + "}";
+}
+
+// The requirements of a model as written back, each node as Cabecera gives it, its lists after
+// it: criteria "C", subcriteria "S" and indicators "I", which add their function's type and
+// units.
+inline std::string Escrito(const Modelo& m) {
+    const auto indicador = [](const NodoIndicador& i) {
+        return Cabecera(i) + " f" + std::to_string(i.Funcion.Tipo) + " '" + i.Funcion.Unidades +
+               "'";
+    };
+    const auto subcriterio = [&](const NodoSubcriterio& s) {
+        return Cabecera(s) + " I" + Elementos(s.NumIndicadores, s.Indicadores, indicador);
+    };
+    const auto criterio = [&](const NodoCriterio& c) {
+        return Cabecera(c) + " I" + Elementos(c.NumIndicadores, c.Indicadores, indicador) + " S" +
+               Elementos(c.NumSubcriterios, c.Subcriterios, subcriterio);
+    };
+    return Elementos(m.NumRequerimientos, m.Requerimientos, [&](const NodoRequerimiento& r) {
+        return Cabecera(r) + " C" + Elementos(r.NumCriterios, r.Criterios, criterio);
+    });
+}
+
 // A tree window's logic over a fresh session, with shorthand to select by key and to read the
 // tree.
 template <typename Edicion> class PruebaArbol : public PruebaSesion {
@@ -91,7 +127,7 @@ protected:
                (ed.tvwArbol.ResaltadoDestino() ? " | drop " + ed.tvwArbol.ResaltadoDestino()->Key()
                                                : "");
     }
-    // Selector i: its names with the chosen one in brackets, then its counter.
+    // Selector i: its names with the chosen one in brackets, its counter and its keys.
     std::string Selector(int i) {
         const SelectorNivel& s = ed.Selector(i);
         std::string texto;
@@ -99,7 +135,11 @@ protected:
             const bool elegido = static_cast<int>(k) + 1 == s.Seleccion;
             texto += (elegido ? "[" : "") + s.Nombres[k] + (elegido ? "] " : " ");
         }
-        return texto + std::to_string(s.Contador);
+        texto += std::to_string(s.Contador) + " (";
+        for (const std::string& clave : s.Claves) {
+            texto += (&clave == &s.Claves.front() ? "" : "|") + clave;
+        }
+        return texto + ")";
     }
     // Works the steps of a data file on the logic: each names an operation and its arguments
     // and gives the working tree after it as Estado does, or names a view of the state and
@@ -173,6 +213,16 @@ protected:
               [this](const Argumentos&) {
                   return "level " + std::to_string(ed.NivelArrastre) + ", current " +
                          (ed.NodoActual ? ed.NodoActual->Key() : "none");
+              }},
+             {"SubirContador", hacer([&](const Argumentos& a) { ed.SubirContador(entero(a)); })},
+             {"BajarContador", hacer([&](const Argumentos& a) { ed.BajarContador(entero(a)); })},
+             {"EliminarSubcriteriosDelNodo",
+              hacer([&](const Argumentos& a) { ed.EliminarSubcriteriosDelNodo(N(a.at(0))); })},
+             {"LlamaLlenarRequerimientos",
+              [&](const Argumentos&) {
+                  ed.LlamaLlenarRequerimientos();
+                  return "next row " + std::to_string(ed.SiguienteNodoEdicion) + " | " +
+                         Escrito(sesion().modelo);
               }},
              {"Estado", [this](const Argumentos&) { return Estado(); }},
              {"Textos", [this](const Argumentos&) { return Textos(); }},
