@@ -127,19 +127,35 @@ protected:
                (ed.tvwArbol.ResaltadoDestino() ? " | drop " + ed.tvwArbol.ResaltadoDestino()->Key()
                                                : "");
     }
-    // Selector i: its names with the chosen one in brackets, its counter and its keys.
+    // Selector i: its names and its keys with the chosen ones in brackets, its counter and its
+    // label; then "locked" when its list takes no typing, its text where it is not the chosen
+    // name, and its mark.
     std::string Selector(int i) {
         const SelectorNivel& s = ed.Selector(i);
-        std::string texto;
+        std::string nombres, claves, elegido;
         for (std::size_t k = 0; k < s.Nombres.size(); ++k) {
-            const bool elegido = static_cast<int>(k) + 1 == s.Seleccion;
-            texto += (elegido ? "[" : "") + s.Nombres[k] + (elegido ? "] " : " ");
+            const bool este = static_cast<int>(k) + 1 == s.Seleccion;
+            elegido = este ? s.Nombres[k] : elegido;
+            nombres += (k > 0 ? " " : "") + (este ? "[" + s.Nombres[k] + "]" : s.Nombres[k]);
         }
-        texto += std::to_string(s.Contador) + " (";
         for (const std::string& clave : s.Claves) {
-            texto += (&clave == &s.Claves.front() ? "" : "|") + clave;
+            claves += (claves.empty() ? "" : "|") +
+                      (clave == s.ClaveElegida() ? "[" + clave + "]" : clave);
         }
-        return texto + ")";
+        return nombres + " (" + claves + ") " + std::to_string(s.Contador) + " '" + s.Etiqueta +
+               "'" + (s.Bloqueada ? " locked" : "") +
+               (s.Texto == elegido ? "" : " text '" + s.Texto + "'") +
+               (s.Marca.empty() ? "" : " mark " + s.Marca);
+    }
+    // The enabled states of counters and lists, one digit each, and "f" for the function
+    // button.
+    std::string Habilitados() {
+        std::string contadores, listas;
+        for (int i = 1; i <= 4; ++i) {
+            contadores += ed.Selector(i).ContadorHabilitado ? "1" : "0";
+            listas += ed.Selector(i).ListaHabilitada ? "1" : "0";
+        }
+        return contadores + "|" + listas + (ed.FuncionHabilitada ? "|f" : "");
     }
     // Works the steps of a data file on the logic: each names an operation and its arguments
     // and gives the working tree after it as Estado does, or names a view of the state and
@@ -223,6 +239,24 @@ protected:
                   ed.LlamaLlenarRequerimientos();
                   return "next row " + std::to_string(ed.SiguienteNodoEdicion) + " | " +
                          Escrito(sesion().modelo);
+              }},
+             {"Abrir", hacer([&](const Argumentos&) { Abrir(); })},
+             {"Permiso", hacer([&](const Argumentos& a) {
+                  sesion().modelo.ConSubcriterios = a.at(0) == "yes";
+              })},
+             {"AbrirLista", hacer([&](const Argumentos& a) { ed.AbrirLista(entero(a)); })},
+             {"ElegirEnLista",
+              hacer([&](const Argumentos& a) { ed.ElegirEnLista(entero(a), std::stoi(a.at(1))); })},
+             {"EscribirEnLista",
+              hacer([&](const Argumentos& a) { ed.EscribirEnLista(entero(a), a.at(1)); })},
+             {"Habilitados", [this](const Argumentos&) { return Habilitados(); }},
+             {"Posiciones",
+              [this](const Argumentos&) {
+                  std::string texto;
+                  for (const int posicion : ed.UltimasPosiciones) {
+                      texto += (texto.empty() ? "" : " ") + std::to_string(posicion);
+                  }
+                  return texto;
               }},
              {"Estado", [this](const Argumentos&) { return Estado(); }},
              {"Textos", [this](const Argumentos&) { return Textos(); }},
