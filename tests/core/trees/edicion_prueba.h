@@ -9,6 +9,9 @@
 #include "core/trees/edicion_requerimientos.h"
 #include "soporte/prueba_sesion.h"
 
+#include <deque>
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -52,13 +55,62 @@ inline std::string Escrito(const Modelo& m) {
     });
 }
 
+// The components of a model as written back: key, name and options.
+inline std::string Escritos(const Modelo& m) {
+    return Elementos(m.NumComponentes, m.Componentes, [](const Componente& c) {
+        return c.Clave + " '" + c.Nombre + "' " +
+               Elementos(ValorLibre(c.NumSubcomponentes), c.Subcomponentes,
+                         [](const Subcomponente& o) { return o.Clave + " '" + o.Nombre + "'"; });
+    });
+}
+
+// The entries of a tree menu that show, "~" before a paste that is off, and the deletion's
+// caption when its entry shows.
+inline std::string Entradas(const MenuArbol& m) {
+    std::string texto;
+    for (const auto& [visible, nombre] : {std::pair{m.InsertarVisible, "Insertar"},
+                                          {m.Separador1Visible, "|"},
+                                          {m.EliminarVisible, "Eliminar"},
+                                          {m.AñadirRVisible, "AñadirR"},
+                                          {m.AñadirCVisible, "AñadirC"},
+                                          {m.AñadirSVisible, "AñadirS"},
+                                          {m.AñadirIVisible, "AñadirI"},
+                                          {m.CopiarVisible, "Copiar"},
+                                          {m.RenombrarVisible, "Renombrar"},
+                                          {m.Separadores23Visible, "||"}}) {
+        texto += visible ? std::string(nombre) + " " : "";
+    }
+    texto += m.PegarVisible ? (m.PegarHabilitado ? "Pegar" : "~Pegar") : "";
+    return texto + (m.EliminarVisible ? ", '" + m.EliminarTitulo + "'" : "");
+}
+
+// The same for the components menu, whose deletion caption is set even when hidden.
+inline std::string Entradas(const MenuArbolComponentes& m) {
+    std::string texto;
+    for (const auto& [visible, nombre] : {std::pair{m.InsertarVisible, "Insertar"},
+                                          {m.EliminarVisible, "Eliminar"},
+                                          {m.AñadirCompVisible, "AñadirComp"},
+                                          {m.AñadirScVisible, "AñadirSc"},
+                                          {m.CopiarVisible, "Copiar"},
+                                          {m.RenombrarVisible, "Renombrar"}}) {
+        texto += visible ? std::string(nombre) + " " : "";
+    }
+    texto += m.PegarVisible ? (m.PegarHabilitado ? "Pegar" : "~Pegar") : "";
+    return texto + ", '" + m.EliminarTitulo + "'";
+}
+
 // A tree window's logic over a fresh session, with shorthand to select by key and to read the
-// tree.
+// tree, and the steps both trees share.
 template <typename Edicion> class PruebaArbol : public PruebaSesion {
 protected:
     Edicion ed{SesionActual()};
 
+    // The state after an operation, as each tree's tests read it.
+    virtual std::string Estado() = 0;
+
     NodoArbol* N(const std::string& clave) { return ed.tvwArbol.NodoPorClave(clave); }
+    // The node of a step's argument: by key, '' for none.
+    NodoArbol* Nodo(const std::string& clave) { return clave.empty() ? nullptr : N(clave); }
     void Sel(const std::string& clave) { ed.tvwArbol.Seleccionar(N(clave)); }
     std::string Claves() { return Forma(ed.tvwArbol); }
     std::string Textos() {
@@ -75,6 +127,134 @@ protected:
         ed.MoverRaton(true);
         ed.ArrastrarSobre(N(nodo));
         ed.ArrastrarSobre(N(destino));
+    }
+    // The selected node and the last number drawn for a key; the drop target shown, if any.
+    std::string Seleccion() {
+        const NodoArbol* elegido = ed.tvwArbol.Seleccionado();
+        return " | selected " + (elegido ? elegido->Key() : "none") + " | key " +
+               std::to_string(ed.ContadorClaves);
+    }
+    std::string Destino() {
+        const NodoArbol* destino = ed.tvwArbol.ResaltadoDestino();
+        return destino ? " | drop " + destino->Key() : "";
+    }
+    // Selector i: its names and its keys with the chosen ones in brackets, its counter and its
+    // label; then "locked" when its list takes no typing, its text where it is not the chosen
+    // name, and its mark.
+    std::string Selector(int i) {
+        const SelectorNivel& s = ed.Selector(i);
+        std::string nombres, claves, elegido;
+        for (std::size_t k = 0; k < s.Nombres.size(); ++k) {
+            const bool este = static_cast<int>(k) + 1 == s.Seleccion;
+            elegido = este ? s.Nombres[k] : elegido;
+            nombres += (k > 0 ? " " : "") + (este ? "[" + s.Nombres[k] + "]" : s.Nombres[k]);
+        }
+        for (const std::string& clave : s.Claves) {
+            claves += (claves.empty() ? "" : "|") +
+                      (clave == s.ClaveElegida() ? "[" + clave + "]" : clave);
+        }
+        return nombres + " (" + claves + ") " + std::to_string(s.Contador) + " '" + s.Etiqueta +
+               "'" + (s.Bloqueada ? " locked" : "") +
+               (s.Texto == elegido ? "" : " text '" + s.Texto + "'") +
+               (s.Marca.empty() ? "" : " mark " + s.Marca);
+    }
+    // An operation whose outcome is the state after it.
+    Funcion Hacer(std::function<void(const Argumentos&)> operacion) {
+        return [this, operacion](const Argumentos& a) {
+            operacion(a);
+            return Estado();
+        };
+    }
+    // An operation on the selection, which the step may first move to the node it names.
+    Funcion Sobre(std::function<void(const Argumentos&)> operacion) {
+        return Hacer([this, operacion](const Argumentos& a) {
+            if (!a.empty()) {
+                ed.tvwArbol.Seleccionar(Nodo(a.at(0)));
+            }
+            operacion(a);
+        });
+    }
+    static int16_t Entero(const Argumentos& a, std::size_t i = 0) {
+        return static_cast<int16_t>(std::stoi(a.at(i)));
+    }
+    // Works the steps of a data file on the logic: each names an operation and its arguments
+    // and gives the state after it, or names a view of the state and gives it. The window's own
+    // operations come in `propias`; the questions are answered in turn by `respuestas`.
+    void Recorrer(const std::string& datos, std::map<std::string, Funcion> propias,
+                  std::deque<Respuesta> respuestas) {
+        std::map<std::string, Funcion> operaciones = {
+            {"Sel", Sobre([](const Argumentos&) {})},
+            {"SoltarRaton", Hacer([this](const Argumentos& a) { ed.SoltarRaton(Nodo(a.at(0))); })},
+            {"InsertarAntes", Sobre([this](const Argumentos&) { ed.InsertarAntes(); })},
+            {"InsertarDespues", Sobre([this](const Argumentos&) { ed.InsertarDespues(); })},
+            {"Eliminar", Sobre([this](const Argumentos&) { ed.Eliminar(); })},
+            {"Copiar", Sobre([this](const Argumentos&) { ed.Copiar(); })},
+            {"Pegar", Sobre([this](const Argumentos&) { ed.Pegar(); })},
+            {"Reordenar", Sobre([this](const Argumentos&) { ed.Reordenar(); })},
+            {"ContadorClaves",
+             Hacer([this](const Argumentos& a) { ed.ContadorClaves = Entero(a); })},
+            {"Arrastrar", Hacer([this](const Argumentos& a) { Arrastrar(a.at(0), a.at(1)); })},
+            {"ArrastrarSobre",
+             Hacer([this](const Argumentos& a) { ed.ArrastrarSobre(N(a.at(0))); })},
+            {"Soltar", Hacer([this](const Argumentos&) { ed.Soltar(); })},
+            {"Quitar", Hacer([this](const Argumentos& a) { ed.tvwArbol.Quitar(N(a.at(0))); })},
+            {"Vaciar", Hacer([this](const Argumentos&) { ed.tvwArbol.Vaciar(); })},
+            {"Caracter", Hacer([this](const Argumentos& a) { ed.Caracter(Entero(a)); })},
+            {"SubirContador", Hacer([this](const Argumentos& a) { ed.SubirContador(Entero(a)); })},
+            {"BajarContador", Hacer([this](const Argumentos& a) { ed.BajarContador(Entero(a)); })},
+            {"AbrirLista", Hacer([this](const Argumentos& a) { ed.AbrirLista(Entero(a)); })},
+            {"ElegirEnLista",
+             Hacer([this](const Argumentos& a) { ed.ElegirEnLista(Entero(a), Entero(a, 1)); })},
+            {"EscribirEnLista",
+             Hacer([this](const Argumentos& a) { ed.EscribirEnLista(Entero(a), a.at(1)); })},
+            {"Tecla",
+             [this](const Argumentos& a) {
+                 const PeticionTecla peticion = ed.Tecla(Entero(a));
+                 return (peticion == PeticionTecla::EditarEtiqueta ? "edit the label | " : "") +
+                        Estado();
+             }},
+            {"Renombrar",
+             [this](const Argumentos& a) {
+                 return std::string(ed.Renombrar(a.at(0)) ? "accepted" : "refused");
+             }},
+            {"Menu",
+             [this](const Argumentos& a) { return Entradas(ed.MenuContextual(Nodo(a.at(0)))); }},
+            {"Arrastre",
+             [this](const Argumentos&) {
+                 return "level " + std::to_string(ed.NivelArrastre) + ", current " +
+                        (ed.NodoActual ? ed.NodoActual->Key() : "none") + ", copied level " +
+                        std::to_string(ed.NivelCopia);
+             }},
+            {"Habilitados",
+             [this](const Argumentos&) {
+                 std::string contadores, listas;
+                 for (const SelectorNivel& s : ed.Selectores) {
+                     contadores += s.ContadorHabilitado ? "1" : "0";
+                     listas += s.ListaHabilitada ? "1" : "0";
+                 }
+                 if constexpr (requires { ed.FuncionHabilitada; }) {
+                     listas += ed.FuncionHabilitada ? "|f" : "";
+                 }
+                 return contadores + "|" + listas;
+             }},
+            {"Marcos",
+             [this](const Argumentos&) {
+                 std::string texto;
+                 if constexpr (requires { ed.Descripcion; }) {
+                     texto = "'" + ed.Descripcion + "' ";
+                 }
+                 for (const std::string& titulo : ed.TitulosMarcos) {
+                     texto += (&titulo == &ed.TitulosMarcos.front() ? "" : "|") + titulo;
+                 }
+                 return texto;
+             }},
+            {"Selector", [this](const Argumentos& a) { return Selector(Entero(a)); }},
+            {"Estado", [this](const Argumentos&) { return Estado(); }},
+            {"Textos", [this](const Argumentos&) { return Textos(); }},
+            {"Copia", [this](const Argumentos&) { return Forma(ed.tvwCopia); }},
+        };
+        propias.merge(operaciones);
+        Tabular(datos, propias, std::move(respuestas));
     }
 };
 
@@ -112,170 +292,70 @@ protected:
         return (r.Saaty.Presente() ? std::to_string(r.Saaty.Cota()) : "-") + "/" + r.Peso.Texto();
     }
     // The working tree, each node as key, "#", the row of its record and its weights
-    // ("I1C1R1#4 3/10"), or "#-" without a record; then the selected node, the last number
-    // drawn for a key, the current row of the working table and the drop target shown, if any.
-    std::string Estado() {
-        const NodoArbol* elegido = ed.tvwArbol.Seleccionado();
+    // ("I1C1R1#4 3/10"), or "#-" without a record; then the selection and the key counter, the
+    // current row of the working table and the drop target, if any.
+    std::string Estado() override {
         return Forma(ed.tvwArbol,
                      [this](const NodoArbol& n) {
                          return n.Key() + "#" +
                                 (n.Tag() ? std::to_string(*n.Tag()) + " " + Pesos(n.Key()) : "-");
                      }) +
-               " | selected " + (elegido ? elegido->Key() : "none") + " | key " +
-               std::to_string(ed.ContadorClaves) + " | row " +
-               std::to_string(sesion().NodoEdicionActual) +
-               (ed.tvwArbol.ResaltadoDestino() ? " | drop " + ed.tvwArbol.ResaltadoDestino()->Key()
-                                               : "");
+               Seleccion() + " | row " + std::to_string(sesion().NodoEdicionActual) + Destino();
     }
-    // Selector i: its names and its keys with the chosen ones in brackets, its counter and its
-    // label; then "locked" when its list takes no typing, its text where it is not the chosen
-    // name, and its mark.
-    std::string Selector(int i) {
-        const SelectorNivel& s = ed.Selector(i);
-        std::string nombres, claves, elegido;
-        for (std::size_t k = 0; k < s.Nombres.size(); ++k) {
-            const bool este = static_cast<int>(k) + 1 == s.Seleccion;
-            elegido = este ? s.Nombres[k] : elegido;
-            nombres += (k > 0 ? " " : "") + (este ? "[" + s.Nombres[k] + "]" : s.Nombres[k]);
-        }
-        for (const std::string& clave : s.Claves) {
-            claves += (claves.empty() ? "" : "|") +
-                      (clave == s.ClaveElegida() ? "[" + clave + "]" : clave);
-        }
-        return nombres + " (" + claves + ") " + std::to_string(s.Contador) + " '" + s.Etiqueta +
-               "'" + (s.Bloqueada ? " locked" : "") +
-               (s.Texto == elegido ? "" : " text '" + s.Texto + "'") +
-               (s.Marca.empty() ? "" : " mark " + s.Marca);
-    }
-    // The enabled states of counters and lists, one digit each, and "f" for the function
-    // button.
-    std::string Habilitados() {
-        std::string contadores, listas;
-        for (int i = 1; i <= 4; ++i) {
-            contadores += ed.Selector(i).ContadorHabilitado ? "1" : "0";
-            listas += ed.Selector(i).ListaHabilitada ? "1" : "0";
-        }
-        return contadores + "|" + listas + (ed.FuncionHabilitada ? "|f" : "");
-    }
-    // Works the steps of a data file on the logic: each names an operation and its arguments
-    // and gives the working tree after it as Estado does, or names a view of the state and
-    // gives it. An operation on the selection first selects the node it names, if any (by key,
-    // '' for none). The questions are answered in turn by `respuestas`.
+    // Works the steps of a data file, with the operations of the requirements tree: additions
+    // with their default texts, the working table and the write-back.
     void Pasos(const std::string& datos, std::deque<Respuesta> respuestas = {}) {
-        const auto nodo = [this](const std::string& clave) {
-            return clave.empty() ? nullptr : N(clave);
-        };
-        const auto hacer = [this](std::function<void(const Argumentos&)> operacion) -> Funcion {
-            return [this, operacion](const Argumentos& a) {
-                operacion(a);
-                return Estado();
-            };
-        };
-        const auto sobre = [&](std::function<void()> operacion) {
-            return hacer([&, operacion](const Argumentos& a) {
-                if (!a.empty()) {
-                    ed.tvwArbol.Seleccionar(nodo(a.at(0)));
-                }
-                operacion();
-            });
-        };
-        const auto entero = [](const Argumentos& a) {
-            return static_cast<int16_t>(std::stoi(a.at(0)));
-        };
-        Tabular(
-            datos,
-            {{"Sel", sobre([] {})},
-             {"SoltarRaton", hacer([&](const Argumentos& a) { ed.SoltarRaton(nodo(a.at(0))); })},
-             {"AñadirRequerimiento", sobre([&] { ed.AñadirRequerimiento("Requerimiento"); })},
-             {"AñadirCriterio", sobre([&] { ed.AñadirCriterio("Criterio"); })},
-             {"AñadirSubcriterio", sobre([&] { ed.AñadirSubcriterio("Subcriterio"); })},
-             {"AñadirIndicador", sobre([&] { ed.AñadirIndicador("Indicador"); })},
-             {"InsertarAntes", sobre([&] { ed.InsertarAntes(); })},
-             {"InsertarDespues", sobre([&] { ed.InsertarDespues(); })},
-             {"Eliminar", sobre([&] { ed.Eliminar(); })},
-             {"Copiar", sobre([&] { ed.Copiar(); })},
-             {"Pegar", sobre([&] { ed.Pegar(); })},
-             {"Reordenar", sobre([&] { ed.Reordenar(); })},
-             {"CopiaNodo", hacer([&](const Argumentos& a) {
-                  ed.CopiaNodo(ed.tvwArbol, N(a.at(0)), ed.tvwArbol, N(a.at(1)));
-              })},
-             {"ContadorClaves", hacer([&](const Argumentos& a) { ed.ContadorClaves = entero(a); })},
-             {"SiguienteNodoEdicion",
-              hacer([&](const Argumentos& a) { ed.SiguienteNodoEdicion = entero(a); })},
-             {"Arrastrar", hacer([&](const Argumentos& a) { Arrastrar(a.at(0), a.at(1)); })},
-             {"ArrastrarSobre", hacer([&](const Argumentos& a) { ed.ArrastrarSobre(N(a.at(0))); })},
-             {"Soltar", hacer([&](const Argumentos&) { ed.Soltar(); })},
-             {"Quitar", hacer([&](const Argumentos& a) { ed.tvwArbol.Quitar(N(a.at(0))); })},
-             {"Tecla",
-              [&](const Argumentos& a) {
-                  const PeticionTecla peticion = ed.Tecla(entero(a));
-                  return (peticion == PeticionTecla::EditarEtiqueta ? "edit the label | " : "") +
-                         Estado();
-              }},
-             {"Caracter", hacer([&](const Argumentos& a) { ed.Caracter(entero(a)); })},
-             {"CambiarDescripcion",
-              hacer([&](const Argumentos& a) { ed.CambiarDescripcion(a.at(0)); })},
-             {"Renombrar",
-              [&](const Argumentos& a) {
-                  return std::string(ed.Renombrar(a.at(0)) ? "accepted" : "refused");
-              }},
-             {"ClicFuncion",
-              [&](const Argumentos&) {
-                  const std::optional<std::string> indicador = ed.ClicFuncion();
-                  return (indicador ? "'" + *indicador + "'" : "none") + " | row " +
-                         std::to_string(sesion().NodoEdicionActual);
-              }},
-             {"Arrastre",
-              [this](const Argumentos&) {
-                  return "level " + std::to_string(ed.NivelArrastre) + ", current " +
-                         (ed.NodoActual ? ed.NodoActual->Key() : "none");
-              }},
-             {"SubirContador", hacer([&](const Argumentos& a) { ed.SubirContador(entero(a)); })},
-             {"BajarContador", hacer([&](const Argumentos& a) { ed.BajarContador(entero(a)); })},
-             {"EliminarSubcriteriosDelNodo",
-              hacer([&](const Argumentos& a) { ed.EliminarSubcriteriosDelNodo(N(a.at(0))); })},
-             {"LlamaLlenarRequerimientos",
-              [&](const Argumentos&) {
-                  ed.LlamaLlenarRequerimientos();
-                  return "next row " + std::to_string(ed.SiguienteNodoEdicion) + " | " +
-                         Escrito(sesion().modelo);
-              }},
-             {"Abrir", hacer([&](const Argumentos&) { Abrir(); })},
-             {"Permiso", hacer([&](const Argumentos& a) {
-                  sesion().modelo.ConSubcriterios = a.at(0) == "yes";
-              })},
-             {"AbrirLista", hacer([&](const Argumentos& a) { ed.AbrirLista(entero(a)); })},
-             {"ElegirEnLista",
-              hacer([&](const Argumentos& a) { ed.ElegirEnLista(entero(a), std::stoi(a.at(1))); })},
-             {"EscribirEnLista",
-              hacer([&](const Argumentos& a) { ed.EscribirEnLista(entero(a), a.at(1)); })},
-             {"Habilitados", [this](const Argumentos&) { return Habilitados(); }},
-             {"Posiciones",
-              [this](const Argumentos&) {
-                  std::string texto;
-                  for (const int posicion : ed.UltimasPosiciones) {
-                      texto += (texto.empty() ? "" : " ") + std::to_string(posicion);
-                  }
-                  return texto;
-              }},
-             {"Estado", [this](const Argumentos&) { return Estado(); }},
-             {"Textos", [this](const Argumentos&) { return Textos(); }},
-             {"Copia", [this](const Argumentos&) { return Forma(ed.tvwCopia); }},
-             {"Selector", [&](const Argumentos& a) { return Selector(entero(a)); }},
-             {"Registro",
-              [this](const Argumentos& a) {
-                  const NodoEdicion& r = Reg(a.at(0));
-                  return "'" + r.Descripcion + "'" +
-                         (r.Calculo == CalculoDirecto ? " direct" : " pairwise") +
-                         (r.PesosBorrados ? ", weights erased" : "");
-              }},
-             {"Marcos",
-              [this](const Argumentos&) {
-                  return "'" + ed.Descripcion + "' " + ed.TitulosMarcos[0] + "|" +
-                         ed.TitulosMarcos[1] + "|" + ed.TitulosMarcos[2] + "|" +
-                         ed.TitulosMarcos[3];
-              }}},
-            std::move(respuestas));
+        Recorrer(datos,
+                 {{"AñadirRequerimiento",
+                   Sobre([this](const Argumentos&) { ed.AñadirRequerimiento("Requerimiento"); })},
+                  {"AñadirCriterio",
+                   Sobre([this](const Argumentos&) { ed.AñadirCriterio("Criterio"); })},
+                  {"AñadirSubcriterio",
+                   Sobre([this](const Argumentos&) { ed.AñadirSubcriterio("Subcriterio"); })},
+                  {"AñadirIndicador",
+                   Sobre([this](const Argumentos&) { ed.AñadirIndicador("Indicador"); })},
+                  {"CopiaNodo", Hacer([this](const Argumentos& a) {
+                       ed.CopiaNodo(ed.tvwArbol, N(a.at(0)), ed.tvwArbol, N(a.at(1)));
+                   })},
+                  {"SiguienteNodoEdicion",
+                   Hacer([this](const Argumentos& a) { ed.SiguienteNodoEdicion = Entero(a); })},
+                  {"CambiarDescripcion",
+                   Hacer([this](const Argumentos& a) { ed.CambiarDescripcion(a.at(0)); })},
+                  {"EliminarSubcriteriosDelNodo", Hacer([this](const Argumentos& a) {
+                       ed.EliminarSubcriteriosDelNodo(N(a.at(0)));
+                   })},
+                  {"Abrir", Hacer([this](const Argumentos&) { Abrir(); })},
+                  {"Permiso", Hacer([this](const Argumentos& a) {
+                       sesion().modelo.ConSubcriterios = a.at(0) == "yes";
+                   })},
+                  {"ClicFuncion",
+                   [this](const Argumentos&) {
+                       const std::optional<std::string> indicador = ed.ClicFuncion();
+                       return (indicador ? "'" + *indicador + "'" : "none") + " | row " +
+                              std::to_string(sesion().NodoEdicionActual);
+                   }},
+                  {"LlamaLlenarRequerimientos",
+                   [this](const Argumentos&) {
+                       ed.LlamaLlenarRequerimientos();
+                       return "next row " + std::to_string(ed.SiguienteNodoEdicion) + " | " +
+                              Escrito(sesion().modelo);
+                   }},
+                  {"Posiciones",
+                   [this](const Argumentos&) {
+                       std::string texto;
+                       for (const int posicion : ed.UltimasPosiciones) {
+                           texto += (texto.empty() ? "" : " ") + std::to_string(posicion);
+                       }
+                       return texto;
+                   }},
+                  {"Registro",
+                   [this](const Argumentos& a) {
+                       const NodoEdicion& r = Reg(a.at(0));
+                       return "'" + r.Descripcion + "'" +
+                              (r.Calculo == CalculoDirecto ? " direct" : " pairwise") +
+                              (r.PesosBorrados ? ", weights erased" : "");
+                   }}},
+                 std::move(respuestas));
     }
 };
 
