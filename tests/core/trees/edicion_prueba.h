@@ -1,7 +1,6 @@
 #pragma once
 
 #include "../core/tabla_funciones.h"
-#include "mensajes_arbol.h"
 #include "modelo_prueba.h"
 #include "volcado.h"
 
@@ -16,8 +15,6 @@
 #include <vector>
 
 namespace vadro::pruebas {
-
-using Lista = std::vector<std::string>;
 
 // A node of the model: key, name, description, weight and the width of its row.
 inline std::string Cabecera(const CabeceraNodo& n) {
@@ -111,15 +108,8 @@ protected:
     NodoArbol* N(const std::string& clave) { return ed.tvwArbol.NodoPorClave(clave); }
     // The node of a step's argument: by key, '' for none.
     NodoArbol* Nodo(const std::string& clave) { return clave.empty() ? nullptr : N(clave); }
-    void Sel(const std::string& clave) { ed.tvwArbol.Seleccionar(N(clave)); }
-    std::string Claves() { return Forma(ed.tvwArbol); }
     std::string Textos() {
         return Forma(ed.tvwArbol, [](const NodoArbol& n) { return n.Text(); });
-    }
-    // The deletion of the selected node, the question of a node with children answered so.
-    void Eliminar(Respuesta respuesta) {
-        mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, respuesta);
-        ed.Eliminar();
     }
     // A drag of the node onto the target, up to the drop.
     void Arrastrar(const std::string& nodo, const std::string& destino) {
@@ -278,12 +268,6 @@ protected:
     void Abrir(Modelo modelo) {
         sesion().modelo = std::move(modelo);
         ed.Abrir();
-    }
-    // Each node as key, "#" and tag, or "#-" without one.
-    std::string Tags() {
-        return Forma(ed.tvwArbol, [](const NodoArbol& n) {
-            return n.Key() + "#" + (n.Tag() ? std::to_string(*n.Tag()) : "-");
-        });
     }
     NodoEdicion& Reg(const std::string& clave) { return sesion().NodosEdicion(*N(clave)->Tag()); }
     // The weights of a node's record: the width of its row, "/" and its weight.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../../core/trees/mensajes_arbol.h"
 #include "../shell/ventana_principal.h"
+#include "mensajes_arbol.h"
 
 #include "windows/trees/selector_nivel.h"
 #include "windows/trees/vista_arbol.h"

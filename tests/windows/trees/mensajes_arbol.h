@@ -4,7 +4,7 @@
 
 namespace vadro::pruebas {
 
-// The questions of the tree windows, shared by their logic and window tests.
+// The questions of the tree windows.
 inline const std::string kEliminarNodo = "VADRO PROGRAMADOR: eliminar nodo";
 inline const std::string kPreguntaEliminar =
     "El elemento selecionado tiene uno o más subnodos. Está seguro que quiere eliminarlo?";
