@@ -3,6 +3,7 @@
 
 #include "soporte/componentes_etapas.h"
 #include "soporte/errores.h"
+#include "tabla_funciones.h"
 
 #include <gtest/gtest.h>
 
@@ -11,20 +12,37 @@
 namespace vadro {
 namespace {
 
-using pruebas::NumeroDeError;
+using namespace pruebas;
 
-TEST(Comunes, FileNamesSplitByTheLastSeparator) {
-    EXPECT_EQ(DirectorioDe("C:\\modelos\\a.b.req"), "C:\\modelos");
-    EXPECT_EQ(DirectorioDe("/home/u/modelo.vdm"), "/home/u");
-    EXPECT_EQ(NombreSinExtension("C:\\modelos\\a.b.req"), "a.b");
-    EXPECT_EQ(NombreSinExtension("C:\\modelos\\sinpunto"), "sinpunto");
-    EXPECT_EQ(NombreSinExtension("/x.y/z"), "z") << "a dot in a folder is not an extension";
-    EXPECT_EQ(ExtensionDe("C:\\modelos\\a.b.req"), "req");
-    EXPECT_EQ(DirectorioDe(""), "");
-    EXPECT_EQ(NombreSinExtension(""), "");
-    EXPECT_EQ(ExtensionDe(""), "");
-    EXPECT_EQ(NumeroDeError([] { (void)DirectorioDe("modelo.vdm"); }), ErrLlamadaNoValida);
-    EXPECT_EQ(NumeroDeError([] { (void)ExtensionDe("C:\\modelos\\x"); }), ErrLlamadaNoValida);
+// File names split by the last separator; a dot in a folder is not an extension, and a name
+// without a folder or an extension asked for one is an invalid call. Intervals show their
+// closed ends in square brackets and an end not given as "?". The numeric key filter lets
+// digits, signs, separators and exponent letters through, and backspace ("#8"), and drops a
+// second separator and Return ("#13") silently and anything else with a beep (the key shown
+// as itself or as "#" and its code).
+TEST(Comunes, FileNamesIntervalsAndTheNumericKeyFilter) {
+    std::setlocale(LC_NUMERIC, "C");
+    const auto texto = [](std::string (*funcion)(const std::string&)) {
+        return [funcion](const Argumentos& a) { return "'" + funcion(a.at(0)) + "'"; };
+    };
+    const auto tecla = [](int codigo) {
+        return codigo >= ' ' ? std::string(1, static_cast<char>(codigo))
+                             : "#" + std::to_string(codigo);
+    };
+    Tabular("nucleo/comunes.txt",
+            {{"DirectorioDe", texto(DirectorioDe)},
+             {"NombreSinExtension", texto(NombreSinExtension)},
+             {"ExtensionDe", texto(ExtensionDe)},
+             {"TextoIntervalo",
+              [](const Argumentos& a) {
+                  return TextoIntervalo(ValorLibre(a.at(0)), ValorLibre(a.at(1)));
+              }},
+             {"FiltrarTeclaNumero", [&](const Argumentos& a) {
+                  const std::string& k = a.at(1);
+                  const TeclaFiltrada f =
+                      FiltrarTeclaNumero(a.at(0), k.size() > 1 ? std::stoi(k.substr(1)) : k[0]);
+                  return tecla(f.tecla) + (f.pitido ? " beep" : "");
+              }}});
 }
 
 TEST(Comunes, TheDecimalSeparatorFollowsTheLocaleAtTheMomentOfTheCall) {
@@ -39,31 +57,6 @@ TEST(Comunes, TheDecimalSeparatorFollowsTheLocaleAtTheMomentOfTheCall) {
     EXPECT_EQ(FiltrarTeclaNumero("1,5", ',').tecla, 0);
     EXPECT_EQ(FiltrarTeclaNumero("1.5", ',').tecla, ',') << "the point is no separator here";
     std::setlocale(LC_NUMERIC, "C");
-}
-
-TEST(Comunes, TheNumericKeyFilter) {
-    std::setlocale(LC_NUMERIC, "C");
-    for (const char c : std::string("0123456789+,-.DEde")) {
-        EXPECT_EQ(FiltrarTeclaNumero("", c).tecla, c) << c;
-    }
-    EXPECT_EQ(FiltrarTeclaNumero("12", 8).tecla, 8) << "backspace";
-    const TeclaFiltrada segundoPunto = FiltrarTeclaNumero("1.5", '.');
-    EXPECT_EQ(segundoPunto.tecla, 0);
-    EXPECT_FALSE(segundoPunto.pitido);
-    const TeclaFiltrada retorno = FiltrarTeclaNumero("1", 13);
-    EXPECT_EQ(retorno.tecla, 0);
-    EXPECT_FALSE(retorno.pitido);
-    const TeclaFiltrada letra = FiltrarTeclaNumero("1", 'x');
-    EXPECT_EQ(letra.tecla, 0);
-    EXPECT_TRUE(letra.pitido);
-    EXPECT_TRUE(FiltrarTeclaNumero("", '/').pitido);
-}
-
-TEST(Comunes, TextoIntervalo) {
-    EXPECT_EQ(TextoIntervalo(ValorLibre("<0"), ValorLibre("=100")), "(0,100]");
-    EXPECT_EQ(TextoIntervalo(ValorLibre("=-5.5"), ValorLibre(">7")), "[-5.5,7)");
-    EXPECT_EQ(TextoIntervalo(ValorLibre(), ValorLibre()), "(?,?)");
-    EXPECT_EQ(TextoIntervalo(ValorLibre("=1"), ValorLibre()), "[1,?)");
 }
 
 TEST(Comunes, ComponentRowsAndStages) {

@@ -1,74 +1,66 @@
+#include "core/core/codigo_pagina.h"
 #include "core/core/configuracion.h"
-#include "core/core/error_ejecucion.h"
-#include "core/core/ini.h"
-#include "soporte/errores.h"
 #include "soporte/prueba_sesion.h"
+#include "tabla_funciones.h"
 
 #include <gtest/gtest.h>
 
 namespace vadro {
 namespace {
 
-class Configuracion_ : public pruebas::PruebaSesion {
+using namespace pruebas;
+
+class Configuracion_ : public PruebaSesion {
 protected:
     std::string ini = Ruta("Config.ini");
-    const Configuracion& c() { return sesion().configuracion; }
+
+    // The settings read, then the settings file as it stands (its 8-bit text shown in UTF-8).
+    std::string Estado() {
+        const Configuracion& c = sesion().configuracion;
+        return "start " + SiNo(c.MostrarInicio) + ", beta notice " + SiNo(c.MostrarAvisoBeta) +
+               ", font " + std::to_string(c.TamanoFuente) + ", folders '" + c.DirProyectos + "' '" +
+               c.DirModelos + "' '" + c.DirRequerimientos + "' '" + c.DirComponentes + "' '" +
+               c.DirEtapas + "' '" + c.DirFuncionValor + "' | " + DesdeOchoBits(Contenido(ini));
+    }
+    // Works the steps of a data file: "Cargar" writes the settings file it gives, if any, and
+    // loads the settings; the others keep a preference.
+    void Pasos(const std::string& datos) {
+        const auto si = [](const Argumentos& a) { return a.at(0) == "yes"; };
+        Tabular(datos, {{"Cargar",
+                         [this](const Argumentos& a) {
+                             if (!a.empty()) {
+                                 Escribir(ini, AOchoBits(a.at(0)));
+                             }
+                             CargarConfiguracion(sesion());
+                             return Estado();
+                         }},
+                        {"GuardarMostrarInicio",
+                         [&](const Argumentos& a) {
+                             GuardarMostrarInicio(sesion(), si(a));
+                             return Estado();
+                         }},
+                        {"GuardarMostrarAvisoBeta",
+                         [&](const Argumentos& a) {
+                             GuardarMostrarAvisoBeta(sesion(), si(a));
+                             return Estado();
+                         }},
+                        {"GuardarTamanoFuente", [this](const Argumentos& a) {
+                             GuardarTamanoFuente(sesion(), std::stoi(a.at(0)));
+                             return Estado();
+                         }}});
+    }
 };
 
-TEST_F(Configuracion_, AFirstStartWritesTheTwoDisplayKeysAndTheFontSize) {
-    CargarConfiguracion(sesion());
-    EXPECT_TRUE(c().MostrarInicio);
-    EXPECT_TRUE(c().MostrarAvisoBeta);
-    EXPECT_EQ(c().TamanoFuente, 0);
-    EXPECT_EQ(c().DirModelos, "");
-    EXPECT_EQ(Contenido(ini), "[GENERAL]\r\nMOSTRAR_INICIO=Verdadero\r\n"
-                              "MOSTRAR_AVISO_BETA=Verdadero\r\nTAMA\xD1O_FUENTE=0\r\n");
-}
-
-TEST_F(Configuracion_, OnlyFalseAndFalsoMeanFalseAndAreLeftAlone) {
-    Escribir(
-        ini,
-        "[GENERAL]\r\nMOSTRAR_INICIO=False\r\nMOSTRAR_AVISO_BETA=falso\r\nTAMA\xD1O_FUENTE=1\r\n");
-    CargarConfiguracion(sesion());
-    EXPECT_FALSE(c().MostrarInicio);
-    EXPECT_TRUE(c().MostrarAvisoBeta) << "the comparison is exact";
-    EXPECT_EQ(c().TamanoFuente, 1);
-    EXPECT_EQ(Contenido(ini),
-              "[GENERAL]\r\nMOSTRAR_INICIO=False\r\nMOSTRAR_AVISO_BETA=Verdadero\r\n"
-              "TAMA\xD1O_FUENTE=1\r\n");
-}
-
-TEST_F(Configuracion_, DirectoriesReadInAndMinusOneIsEmpty) {
-    Escribir(ini, "[DIRECTORIOS]\r\nPROYECTOS=/p\r\nMODELOS=-1\r\nREQUERIMIENTOS=/r\r\n"
-                  "COMPONENTES=/c\r\nETAPAS=/e\r\nFUNCION_VALOR=/f\r\n");
-    CargarConfiguracion(sesion());
-    EXPECT_EQ(c().DirProyectos, "/p");
-    EXPECT_EQ(c().DirModelos, "");
-    EXPECT_EQ(c().DirRequerimientos, "/r");
-    EXPECT_EQ(c().DirComponentes, "/c");
-    EXPECT_EQ(c().DirEtapas, "/e");
-    EXPECT_EQ(c().DirFuncionValor, "/f");
-}
-
-TEST_F(Configuracion_, AFontSizeOutOfRangeIsTakenAndTextIsAConversionError) {
-    Escribir(ini, "[GENERAL]\r\nTAMA\xD1O_FUENTE=5\r\n");
-    CargarConfiguracion(sesion());
-    EXPECT_EQ(c().TamanoFuente, 5);
-
-    Escribir(ini, "[GENERAL]\r\nTAMA\xD1O_FUENTE=grande\r\n");
-    EXPECT_EQ(pruebas::NumeroDeError([&] { CargarConfiguracion(sesion()); }), ErrTipos)
-        << "a font size that is no number stops the start";
+// A first start writes the two display keys and the font size. Only "False" and "Falso" mean
+// false (the comparison is exact), and what means true is written back. Directories are read
+// in, and -1 is empty. A font size out of range is taken; one that is no number is a
+// conversion error that stops the start.
+TEST_F(Configuracion_, TheSettingsFileIsReadAndCompletedOnLoading) {
+    Pasos("nucleo/configuracion.txt");
 }
 
 TEST_F(Configuracion_, PreferencesAreWrittenThroughAtOnce) {
-    GuardarMostrarInicio(sesion(), false);
-    GuardarMostrarAvisoBeta(sesion(), true);
-    GuardarTamanoFuente(sesion(), 2);
-    EXPECT_FALSE(c().MostrarInicio);
-    EXPECT_EQ(c().TamanoFuente, 2);
-    EXPECT_EQ(LeerIni("GENERAL", "MOSTRAR_INICIO", ini).Texto(), "Falso");
-    EXPECT_EQ(LeerIni("GENERAL", "MOSTRAR_AVISO_BETA", ini).Texto(), "Verdadero");
-    EXPECT_EQ(LeerIni("GENERAL", "TAMAÑO_FUENTE", ini).Texto(), "2");
+    Pasos("nucleo/preferencias.txt");
 }
 
 } // namespace

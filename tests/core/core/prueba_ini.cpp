@@ -1,5 +1,7 @@
+#include "core/core/codigo_pagina.h"
 #include "core/core/ini.h"
 #include "soporte/prueba_sesion.h"
+#include "tabla_funciones.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +10,9 @@
 namespace vadro {
 namespace {
 
-class Ini : public pruebas::PruebaSesion {
+using namespace pruebas;
+
+class Ini : public PruebaSesion {
 protected:
     std::string archivo = Ruta("Config.ini");
     std::string Leer(const std::string& s, const std::string& k) {
@@ -16,41 +20,27 @@ protected:
     }
 };
 
-TEST_F(Ini, AMissingFileOrKeyReadsAsMinusOne) {
-    EXPECT_EQ(Leer("GENERAL", "MOSTRAR_INICIO"), "-1");
-    Escribir(archivo, "[GENERAL]\r\nOTRA=1\r\n");
-    EXPECT_EQ(Leer("GENERAL", "MOSTRAR_INICIO"), "-1");
-    EXPECT_EQ(Leer("DIRECTORIOS", "OTRA"), "-1") << "a key of another section is not found";
-}
-
-TEST_F(Ini, SectionsAndKeysIgnoreCaseAndValuesAreTrimmed) {
-    Escribir(archivo, "[general]\r\n  mostrar_inicio =   Falso  \r\ntama\xF1o_fuente=2\r\n");
-    EXPECT_EQ(Leer("GENERAL", "MOSTRAR_INICIO"), "Falso");
-    EXPECT_EQ(Leer("General", "TAMAÑO_FUENTE"), "2") << "the accented letter folds too";
+// A missing file or key, or a key of another section, reads as -1. Sections and keys ignore
+// case (the accented letter folds too) and values are trimmed. The file is 8-bit text (shown
+// here in UTF-8), and a write leaves every other line as it was.
+TEST_F(Ini, ReadsAndWritesOfTheSettingsFile) {
+    Tabular("nucleo/ini.txt",
+            {{"Archivo",
+              [this](const Argumentos& a) {
+                  Escribir(archivo, AOchoBits(a.at(0)));
+                  return std::string("written");
+              }},
+             {"Leer", [this](const Argumentos& a) { return Leer(a.at(0), a.at(1)); }},
+             {"EscribirIni", [this](const Argumentos& a) {
+                  EscribirIni(a.at(0), a.at(1), a.at(2), archivo);
+                  return DesdeOchoBits(Contenido(archivo));
+              }}});
 }
 
 TEST_F(Ini, AReadReturnsAtMost255Characters) {
     const std::string largo(300, 'x');
     Escribir(archivo, "[D]\r\nK=" + largo + "\r\n");
     EXPECT_EQ(Leer("D", "K"), std::string(255, 'x'));
-}
-
-TEST_F(Ini, TheFileIsEightBitText) {
-    EscribirIni("DIRECTORIOS", "MODELOS", "C:\\Años\\Señal", archivo);
-    EXPECT_EQ(Contenido(archivo), "[DIRECTORIOS]\r\nMODELOS=C:\\A\xF1"
-                                  "os\\Se\xF1"
-                                  "al\r\n");
-    EXPECT_EQ(Leer("DIRECTORIOS", "MODELOS"), "C:\\Años\\Señal");
-}
-
-TEST_F(Ini, AWriteLeavesEveryOtherLineAsItWas) {
-    Escribir(archivo, "; comentario\r\n[GENERAL]\r\nMOSTRAR_INICIO=Falso\r\n\r\n[OTRA]\r\nX=1\r\n");
-    EscribirIni("GENERAL", "mostrar_inicio", "Verdadero", archivo);
-    EscribirIni("GENERAL", "TAMAÑO_FUENTE", "1", archivo);
-    EscribirIni("DIRECTORIOS", "ETAPAS", "d", archivo);
-    EXPECT_EQ(Contenido(archivo), "; comentario\r\n[GENERAL]\r\nmostrar_inicio=Verdadero\r\n"
-                                  "TAMA\xD1O_FUENTE=1\r\n\r\n[OTRA]\r\nX=1\r\n"
-                                  "[DIRECTORIOS]\r\nETAPAS=d\r\n");
 }
 
 TEST_F(Ini, GarbageInTheFileDoesNotStopReadsOrWrites) {

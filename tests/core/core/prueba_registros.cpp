@@ -1,4 +1,5 @@
 #include "core/core/registros.h"
+#include "tabla_funciones.h"
 
 #include <gtest/gtest.h>
 
@@ -27,18 +28,11 @@ TEST(Registros, HaySubcriteriosLooksAtEveryCriterion) {
     EXPECT_TRUE(HaySubcriterios(ModeloConCriterios({0, ValorLibre(), 2})));
 }
 
+// Only the first letter of a key counts.
 TEST(Registros, NivelNodoReadsTheFirstLetter) {
-    EXPECT_EQ(NivelNodo("R1"), 1);
-    EXPECT_EQ(NivelNodo("C 12"), 2);
-    EXPECT_EQ(NivelNodo("S1C2R1"), 3);
-    EXPECT_EQ(NivelNodo("I3S1C2R1"), 4);
-    EXPECT_EQ(NivelNodo("M"), 5);
-    EXPECT_EQ(NivelNodo("P"), 6);
-    EXPECT_EQ(NivelNodo("A"), 7);
-    EXPECT_EQ(NivelNodo("E"), 8);
-    EXPECT_EQ(NivelNodo("Co1"), 2) << "only the first letter counts";
-    EXPECT_EQ(NivelNodo("x"), 0);
-    EXPECT_EQ(NivelNodo(""), 0);
+    pruebas::Tabular("nucleo/niveles.txt", {{"NivelNodo", [](const pruebas::Argumentos& a) {
+                                                 return std::to_string(NivelNodo(a.at(0)));
+                                             }}});
 }
 
 } // namespace

@@ -1,8 +1,11 @@
+#include "../core/tabla_funciones.h"
+#include "edicion_prueba.h"
 #include "modelo_prueba.h"
 #include "volcado.h"
 
 #include "core/trees/arbol_modelo.h"
 #include "core/trees/niveles.h"
+#include "soporte/datos.h"
 
 #include <gtest/gtest.h>
 
@@ -26,23 +29,15 @@ Modelo ModeloMixto() {
         "Mi MODELO ÑANDÚ × Œ");
 }
 
+// Whether a node of a level may be pasted or dropped on a target ('' for the empty place).
 TEST(Niveles, PasteAndDropTargetsFollowTheLevelTable) {
     Arbol a;
     Construir(a, "M[R[C1[I1],C2[S[I2]],C3]]");
-    const struct {
-        int nivel;
-        const char* destino;
-        bool permitido;
-    } casos[] = {{1, "M", true},   {1, "R", false}, {2, "R", true},   {2, "C3", false},
-                 {3, "C2", true},  {3, "C3", true}, {3, "C1", false}, {3, "S", false},
-                 {4, "S", true},   {4, "C1", true}, {4, "C3", true},  {4, "C2", false},
-                 {4, "I1", false}, {5, "I1", true}, {6, "M", true},   {0, "M", false}};
-    for (const auto& caso : casos) {
-        EXPECT_EQ(DestinoPermitido(caso.nivel, a.NodoPorClave(caso.destino)), caso.permitido)
-            << caso.nivel << " on " << caso.destino;
-    }
-    EXPECT_TRUE(DestinoPermitido(1, nullptr));
-    EXPECT_FALSE(DestinoPermitido(2, nullptr));
+    Tabular("arboles/destinos.txt",
+            {{"DestinoPermitido", [&](const Argumentos& x) {
+                  const NodoArbol* destino = x.at(1).empty() ? nullptr : a.NodoPorClave(x.at(1));
+                  return SiNo(DestinoPermitido(std::stoi(x.at(0)), destino));
+              }}});
 }
 
 TEST(LlenarArbol, WalksDepthFirstWithSubcriteriaBeforeDirectIndicators) {
@@ -87,20 +82,14 @@ TEST(EliminarSubcriteriosDelNodo, AnIndicatorEndsTheScanAndAnEmptiedNodeLetsItRu
     EXPECT_EQ(Forma(b), "R1[C1,C2[I1]]") << "the scan ran on into C1's siblings";
 }
 
+// The direct indicator gives way to the subcriteria's, which keep their weights.
 TEST(EliminarSubcriterios, IndicatorsJoinTheirCriterionRenumberedWithWeightsKept) {
     Modelo m = ModeloMixto();
     EliminarSubcriterios(m);
-    const NodoCriterio& c1 = m.Requerimientos(1).Criterios(1);
-    EXPECT_EQ(c1.NumIndicadores, ValorLibre(3));
-    EXPECT_EQ(c1.NumSubcriterios, ValorLibre(0));
-    EXPECT_FALSE(c1.Subcriterios.Presente());
-    ASSERT_EQ(c1.Indicadores.Tamano(), 3) << "the direct indicator gives way";
-    EXPECT_EQ(c1.Indicadores(1).Nombre + c1.Indicadores(2).Nombre + c1.Indicadores(3).Nombre,
-              "xyz");
-    EXPECT_EQ(c1.Indicadores(3).Clave, "I3C1R1");
-    EXPECT_EQ(c1.Indicadores(3).Peso, ValorLibre(10));
+    const std::string escrito = Escrito(m);
+    EXPECT_EQ(escrito, Datos("arboles/sin_subcriterios.txt", escrito));
+    EXPECT_FALSE(m.Requerimientos(1).Criterios(1).Subcriterios.Presente());
     EXPECT_FALSE(HaySubcriterios(m));
-    EXPECT_EQ(m.Requerimientos(1).Criterios(2).NumIndicadores, ValorLibre(0));
 }
 
 } // namespace

@@ -1,8 +1,6 @@
-#include "volcado.h"
+#include "edicion_prueba.h"
 
-#include "core/trees/edicion_componentes.h"
 #include "soporte/componentes_etapas.h"
-#include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
 
@@ -10,205 +8,106 @@ namespace vadro {
 namespace {
 
 using namespace pruebas;
-using Lista = std::vector<std::string>;
-const std::string kEliminarNodo = "VADRO PROGRAMADOR: eliminar nodo";
-const std::string kPreguntaEliminar =
-    "El elemento selecionado tiene uno o más subnodos. Está seguro que quiere eliminarlo?";
 
 // The components window's logic opened on Bombas (Motor, Carcasa) and Tuberías (none).
-class Componentes : public PruebaSesion {
+class Componentes : public PruebaArbol<EdicionComponentes> {
 protected:
-    EdicionComponentes ed{SesionActual()};
     void Abrir() {
         PonerComponentes(sesion().modelo, {{"Bombas", {"Motor", "Carcasa"}}, {"Tuberías", {}}});
         ed.Abrir();
     }
-    NodoArbol* N(const std::string& clave) { return ed.tvwArbol.NodoPorClave(clave); }
-    void Sel(const std::string& clave) { ed.tvwArbol.Seleccionar(N(clave)); }
-    std::string Claves() { return Forma(ed.tvwArbol); }
-    std::string Textos() {
-        return Forma(ed.tvwArbol, [](const NodoArbol& n) { return n.Text(); });
+    // The tree, each node as key, "=" and text; the selection and the key counter; "modified"
+    // when the model was marked since the last state was read (the mark is then taken off);
+    // the drop target, if any.
+    std::string Estado() override {
+        const bool modificado = std::exchange(sesion().modelo.Modificado, false);
+        return Forma(ed.tvwArbol, [](const NodoArbol& n) { return n.Key() + "=" + n.Text(); }) +
+               Seleccion() + (modificado ? " | modified" : "") + Destino();
+    }
+    // Works the steps of a data file, with the components tree's additions (on the node named
+    // first, with the text named second) and write-backs.
+    void Pasos(const std::string& datos, std::deque<Respuesta> respuestas = {}) {
+        const auto texto = [](const Argumentos& a, const char* omision) {
+            return a.size() > 1 ? a.at(1) : omision;
+        };
+        Recorrer(datos,
+                 {{"AñadirComponente", Sobre([&](const Argumentos& a) {
+                       ed.AñadirComponente(texto(a, "Componente"));
+                   })},
+                  {"AñadirSubcomponente", Sobre([&](const Argumentos& a) {
+                       ed.AñadirSubcomponente(texto(a, "Subcomponente"));
+                   })},
+                  {"ActualizarCombos",
+                   Hacer([this](const Argumentos& a) { ed.ActualizarCombos(N(a.at(0))); })},
+                  {"LlamaLlenarComponentes",
+                   [this](const Argumentos&) {
+                       ed.LlamaLlenarComponentes();
+                       return Escritos(sesion().modelo);
+                   }},
+                  {"GuardarArbol",
+                   [this](const Argumentos&) {
+                       const bool guardado = ed.GuardarArbol();
+                       return SiNo(guardado) + " | " + Escritos(sesion().modelo);
+                   }}},
+                 std::move(respuestas));
     }
 };
 
 TEST(NivelesComponentes, TwoLettersGiveTheLevelAndOnlyOneLevelDownIsAllowed) {
     Arbol arbol;
-    const auto nodo = [&arbol](const char* clave) {
-        return arbol.Añadir(nullptr, Relacion::UltimoHijo, clave, clave, 0);
-    };
-    struct Caso {
-        const char* clave;
-        int nivel;
-        bool componenteDebajo, subcomponenteDebajo;
-    };
-    const Caso casos[] = {
-        {"Co1", 1, false, true},
-        {"Co 7", 1, false, true},
-        {"Sc2Co1", 2, false, false},
-        // A key of no level counts as level 0, one above a component, as the rule reads;
-        // no such node stands in this tree.
-        {"C1R1", 0, true, false},
-        {"S1", 0, true, false},
-        {"co1", 0, true, false},
-    };
-    for (const Caso& c : casos) {
-        NodoArbol* n = nodo(c.clave);
-        EXPECT_EQ(NivelComponentesDe(n), c.nivel) << c.clave;
-        EXPECT_EQ(DestinoComponentesPermitido(1, n), c.componenteDebajo) << c.clave;
-        EXPECT_EQ(DestinoComponentesPermitido(2, n), c.subcomponenteDebajo) << c.clave;
-    }
-    EXPECT_EQ(NivelComponentesDe(nullptr), 0);
-    EXPECT_TRUE(DestinoComponentesPermitido(1, nullptr)) << "the empty place takes a component";
-    EXPECT_FALSE(DestinoComponentesPermitido(2, nullptr));
+    Tabular("arboles/niveles_componentes.txt",
+            {{"Nivel", [&](const Argumentos& a) {
+                  const NodoArbol* n = a.at(0).empty() ? nullptr
+                                                       : arbol.Añadir(nullptr, Relacion::UltimoHijo,
+                                                                      a.at(0), a.at(0), 0);
+                  return std::to_string(NivelComponentesDe(n)) + ", a component below " +
+                         SiNo(DestinoComponentesPermitido(1, n)) + ", an option below " +
+                         SiNo(DestinoComponentesPermitido(2, n));
+              }}});
 }
 
+// The load keys by position, selects the first component and is no edit.
 TEST_F(Componentes, TheLoadKeysByPositionAndSelectsTheFirstComponent) {
     Abrir();
-    EXPECT_EQ(Claves(), "Co1[Sc1Co1,Sc2Co1];Co2");
-    EXPECT_EQ(ed.ContadorClaves, 4);
-    EXPECT_EQ(ed.tvwArbol.Seleccionado(), N("Co1"));
-    EXPECT_EQ(ed.Selector(1).Nombres, (Lista{"Bombas", "Tuberías"}));
-    EXPECT_EQ(ed.Selector(2).Nombres, (Lista{"Motor", "Carcasa"}));
-    EXPECT_EQ(ed.TitulosMarcos,
-              (std::array<std::string, 2>{"Componente 1", "Subcomponentes del comp. 1"}));
-    EXPECT_FALSE(sesion().modelo.Modificado) << "opening is no edit";
+    Pasos("arboles/pasos/componentes_abrir.txt");
 }
 
 TEST_F(Componentes, EveryEditMarksTheModelAndNewKeysFollowTheCounter) {
     Abrir();
-    struct Paso {
-        const char* seleccion;
-        std::function<void(EdicionComponentes&)> edicion;
-        const char* forma;
-    };
-    const Paso pasos[] = {
-        {"Co2", [](auto& e) { e.AñadirComponente("Componente"); }, "Co1[Sc1Co1,Sc2Co1];Co2;Co 5"},
-        {"Co2", [](auto& e) { e.AñadirSubcomponente("Subcomponente"); },
-         "Co1[Sc1Co1,Sc2Co1];Co2[Sc 6];Co 5"},
-        {"Sc1Co1", [](auto& e) { e.AñadirSubcomponente("Subcomponente"); },
-         "Co1[Sc1Co1,Sc2Co1,Sc 7];Co2[Sc 6];Co 5"},
-        {"Co 5", [](auto& e) { e.InsertarAntes(); }, "Co1[Sc1Co1,Sc2Co1,Sc 7];Co2[Sc 6];Co 8;Co 5"},
-        {"Sc1Co1", [](auto& e) { e.InsertarDespues(); },
-         "Co1[Sc1Co1,Sc 9,Sc2Co1,Sc 7];Co2[Sc 6];Co 8;Co 5"},
-        {"Sc 9", [](auto& e) { e.Renombrar("Rotor"); },
-         "Co1[Sc1Co1,Sc 9,Sc2Co1,Sc 7];Co2[Sc 6];Co 8;Co 5"},
-    };
-    for (const Paso& paso : pasos) {
-        sesion().modelo.Modificado = false;
-        Sel(paso.seleccion);
-        paso.edicion(ed);
-        EXPECT_EQ(Claves(), paso.forma);
-        EXPECT_TRUE(sesion().modelo.Modificado) << paso.forma;
-    }
-    EXPECT_EQ(Textos(), "Bombas[Motor,Rotor,Carcasa,Subcomponente];Tuberías[Subcomponente];"
-                        "Componente;Componente");
+    Pasos("arboles/pasos/componentes_ediciones.txt");
 }
 
+// A No keeps a component with options, and the keys are renewed; the next sibling is
+// selected. A component can always be added, even to an empty tree.
 TEST_F(Componentes, RemovalAsksForAComponentWithOptionsAndRenumbers) {
     Abrir();
-    Sel("Co1");
-    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::No);
-    ed.Eliminar();
-    EXPECT_EQ(Claves(), "Co 1[Sc 2,Sc 3];Co 4") << "a No keeps it, and the keys are renewed";
-    EXPECT_EQ(ed.tvwArbol.Seleccionado(), N("Co 4")) << "the next sibling is selected";
-    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::Si);
-    Sel("Co 1");
-    ed.Eliminar();
-    EXPECT_EQ(Claves(), "Co 1");
-    EXPECT_EQ(ed.Selector(1).Nombres, Lista{"Tuberías"});
-    Sel("Co 1");
-    ed.Eliminar();
-    EXPECT_TRUE(ed.tvwArbol.Vacio());
-    EXPECT_EQ(ed.TitulosMarcos, (std::array<std::string, 2>{"Componentes", "Subcomponentes"}));
-    EXPECT_FALSE(ed.Selector(1).ListaHabilitada);
-    EXPECT_TRUE(ed.Selector(1).ContadorHabilitado) << "a component can always be added";
+    Pasos("arboles/pasos/componentes_eliminar.txt", {Respuesta::No, Respuesta::Si});
 }
 
-TEST_F(Componentes, PasteAndDropGoOnlyOneLevelDownAndTheDropAsksNothing) {
+// An option goes under a component only, the drop asks nothing, and keys stay through a move.
+TEST_F(Componentes, APasteAndADropGoOnlyOneLevelDownAndTheDropAsksNothing) {
     Abrir();
-    Sel("Sc2Co1");
-    ed.Copiar();
-    EXPECT_TRUE(ed.MenuContextual(N("Co2")).PegarHabilitado);
-    EXPECT_FALSE(ed.MenuContextual(N("Sc1Co1")).PegarHabilitado);
-    EXPECT_FALSE(ed.MenuContextual(nullptr).PegarHabilitado);
-    ed.SoltarRaton(N("Co2"));
-    ed.Pegar();
-    EXPECT_EQ(Claves(), "Co 1[Sc 2,Sc 3];Co 4[Sc 5]");
-    EXPECT_EQ(Textos(), "Bombas[Motor,Carcasa];Tuberías[Carcasa]");
-
-    sesion().modelo.Modificado = false;
-    ed.PulsarRaton(N("Sc 2"));
-    ed.MoverRaton(true);
-    ed.ArrastrarSobre(N("Sc 3"));
-    EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), nullptr);
-    ed.ArrastrarSobre(N("Co 4"));
-    EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), N("Co 4"));
-    ed.Soltar();
-    EXPECT_EQ(Claves(), "Co 1[Sc 3];Co 4[Sc 5,Sc 2]") << "keys stay through a move";
-    EXPECT_TRUE(sesion().modelo.Modificado);
-    EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), nullptr);
+    Pasos("arboles/pasos/componentes_pegar.txt");
 }
 
-TEST_F(Componentes, TheMenuShowsByTheTarget) {
+// The menu by its target, before and after an option is copied.
+TEST_F(Componentes, TheMenuShowsByTheTargetAndAPasteGoesOnlyOneLevelDown) {
     Abrir();
-    struct Caso {
-        const char* clave; // empty: no node
-        bool insertar, añadirComp, añadirSc;
-        const char* eliminar;
-    };
-    const Caso casos[] = {
-        {"", false, true, false, "&Eliminar componente"},
-        {"Co1", true, false, true, "&Eliminar componente"},
-        {"Sc1Co1", true, false, false, "&Eliminar subcomponente"},
-    };
-    for (const Caso& c : casos) {
-        const MenuArbolComponentes m = ed.MenuContextual(*c.clave ? N(c.clave) : nullptr);
-        const bool nodo = *c.clave != '\0';
-        EXPECT_EQ(m.InsertarVisible, c.insertar) << c.clave;
-        EXPECT_EQ(m.EliminarVisible, nodo) << c.clave;
-        EXPECT_EQ(m.EliminarTitulo, c.eliminar) << c.clave;
-        EXPECT_EQ(m.AñadirCompVisible, c.añadirComp) << c.clave;
-        EXPECT_EQ(m.AñadirScVisible, c.añadirSc) << c.clave;
-        EXPECT_EQ(m.CopiarVisible, nodo) << c.clave;
-        EXPECT_EQ(m.RenombrarVisible, nodo) << c.clave;
-        EXPECT_TRUE(m.PegarVisible) << c.clave;
-    }
+    Pasos("arboles/pasos/componentes_menu.txt");
 }
 
+// The down arrow removes the node shown, not the last; nothing is shown at level 2 for a
+// component without options.
 TEST_F(Componentes, TheCountersAddAndRemoveTheShownNodeAndTypingRenames) {
     Abrir();
-    Sel("Sc2Co1");
-    ed.ActualizarCombos(N("Sc2Co1"));
-    ed.BajarContador(2);
-    EXPECT_EQ(Textos(), "Bombas[Motor];Tuberías") << "the one shown goes, not the last";
-    ed.SubirContador(1);
-    EXPECT_EQ(Textos(), "Bombas[Motor];Tuberías;Componente");
-    EXPECT_EQ(ed.Selector(1).Etiqueta, "3");
-    ed.EscribirEnLista(1, "Válvulas");
-    EXPECT_EQ(Textos(), "Bombas[Motor];Tuberías;Válvulas");
-    sesion().modelo.Modificado = false;
-    ed.BajarContador(2); // nothing shown at level 2 for a component without options
-    EXPECT_FALSE(sesion().modelo.Modificado);
+    Pasos("arboles/pasos/componentes_contadores.txt");
 }
 
+// The write-back keys by position and replaces the old list; an empty tree leaves the step
+// pending.
 TEST_F(Componentes, WritingBackKeysByPositionAndReplacesTheOldList) {
     Abrir();
-    Sel("Co2");
-    ed.AñadirSubcomponente("Acero");
-    Sel("Sc1Co1");
-    ed.Eliminar();
-    ed.LlamaLlenarComponentes();
-    const Modelo& m = sesion().modelo;
-    ASSERT_EQ(m.NumComponentes.Cuenta(), 2);
-    EXPECT_EQ(m.Componentes(1).Clave, "Co1");
-    EXPECT_EQ(m.Componentes(1).NumSubcomponentes, 1);
-    EXPECT_EQ(m.Componentes(1).Subcomponentes(1).Nombre, "Carcasa");
-    EXPECT_EQ(m.Componentes(2).Subcomponentes(1).Clave, "Sc1Co2");
-    EXPECT_EQ(m.Componentes(2).Subcomponentes(1).Nombre, "Acero");
-
-    ed.tvwArbol.Vaciar();
-    EXPECT_FALSE(ed.GuardarArbol()) << "an empty tree leaves the step pending";
-    EXPECT_EQ(sesion().modelo.NumComponentes.Cuenta(), 0);
+    Pasos("arboles/pasos/componentes_escritura.txt");
 }
 
 } // namespace

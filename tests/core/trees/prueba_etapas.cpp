@@ -1,107 +1,104 @@
+#include "edicion_prueba.h"
+
 #include "core/trees/edicion_etapas.h"
-#include "soporte/acta.h"
 #include "soporte/componentes_etapas.h"
-#include "soporte/prueba_sesion.h"
 
 #include <gtest/gtest.h>
+
+#include <utility>
 
 namespace vadro {
 namespace {
 
 using namespace pruebas;
-using Lista = std::vector<std::string>;
 
 class Etapas : public PruebaSesion {
 protected:
     EdicionEtapas ed{SesionActual()};
-    void Abrir(const Lista& etapas) {
-        PonerEtapas(sesion().modelo, etapas);
-        ed.Abrir();
+
+    // The list, the selected position, the three buttons as "E", "S", "B" when enabled and "-"
+    // when not, and "modified" when the model was marked since the last state was read (the
+    // mark is then taken off).
+    std::string Estado() {
+        std::string texto;
+        for (const std::string& etapa : ed.lstEtapas) {
+            texto += "'" + etapa + "' ";
+        }
+        const bool modificado = std::exchange(sesion().modelo.Modificado, false);
+        return texto + "| selected " + std::to_string(ed.Posicion) + " | " +
+               (ed.EliminarHabilitado ? "E" : "-") + (ed.SubirHabilitado ? "S" : "-") +
+               (ed.BajarHabilitado ? "B" : "-") + (modificado ? " | modified" : "");
     }
-    // The three buttons as "E", "S", "B" when enabled and "-" when not.
-    std::string Botones() const {
-        return std::string(ed.EliminarHabilitado ? "E" : "-") + (ed.SubirHabilitado ? "S" : "-") +
-               (ed.BajarHabilitado ? "B" : "-");
+    // Works the steps of a data file on the stages window's logic ("Abrir" with the stages of
+    // the model), each giving the state after it, and the stage rules.
+    void Pasos(const std::string& datos, std::deque<Respuesta> respuestas = {}) {
+        const auto hacer = [this](std::function<void(const Argumentos&)> operacion) -> Funcion {
+            return [this, operacion](const Argumentos& a) {
+                operacion(a);
+                return Estado();
+            };
+        };
+        const auto cerrar = [](bool (*puede)(bool)) -> Funcion {
+            return [puede](const Argumentos& a) {
+                return std::string(puede(a.at(0) == "accepted") ? "closes" : "stays");
+            };
+        };
+        Tabular(datos,
+                {{"Abrir", hacer([this](const Argumentos& a) {
+                      PonerEtapas(sesion().modelo, a);
+                      ed.Abrir();
+                  })},
+                 {"Seleccionar",
+                  hacer([this](const Argumentos& a) { ed.Seleccionar(std::stoi(a.at(0))); })},
+                 {"Subir", hacer([this](const Argumentos&) { ed.Subir(); })},
+                 {"Bajar", hacer([this](const Argumentos&) { ed.Bajar(); })},
+                 {"Eliminar", hacer([this](const Argumentos&) { ed.Eliminar(); })},
+                 {"AgregarEtapa", hacer([this](const Argumentos& a) { ed.AgregarEtapa(a.at(0)); })},
+                 {"Vaciar", hacer([this](const Argumentos&) { ed.lstEtapas.clear(); })},
+                 {"AceptarNuevaEtapa",
+                  [this](const Argumentos& a) {
+                      const bool aceptada = ed.AceptarNuevaEtapa(a.at(0));
+                      return (aceptada ? "accepted | " : "refused | ") + Estado();
+                  }},
+                 {"LlamaLlenarEtapas",
+                  [this](const Argumentos&) {
+                      ed.LlamaLlenarEtapas();
+                      return Elementos(sesion().modelo.NumEtapas, sesion().modelo.Etapas,
+                                       [](const std::string& e) { return "'" + e + "'"; });
+                  }},
+                 {"EtapaRepetida",
+                  [](const Argumentos& a) {
+                      return SiNo(EtapaRepetida({" etapa", "Diseño", "obra civil"}, a.at(0)));
+                  }},
+                 {"PuedeCerrarRequerimientos", cerrar(PuedeCerrarRequerimientos)},
+                 {"PuedeCerrarComponentes", cerrar(PuedeCerrarComponentes)}},
+                std::move(respuestas));
     }
 };
 
-TEST(EtapaRepetida, TheComparisonTrimsBlanksAndIgnoresCase) {
-    const Lista lista = {" etapa", "Diseño", "obra civil"};
-    struct Caso {
-        const char* nombre;
-        bool repetida;
-    };
-    const Caso casos[] = {
-        {"ETAPA ", true},     {"etapa", true},        {"DISEÑO", true},  {"  diseño  ", true},
-        {"Obra Civil", true}, {"obra  civil", false}, {"etapas", false}, {"\tetapa", false},
-    };
-    for (const Caso& c : casos) {
-        EXPECT_EQ(EtapaRepetida(lista, c.nombre), c.repetida) << c.nombre;
-    }
+// A new stage against the list " etapa", "Diseño", "obra civil".
+TEST_F(Etapas, TheComparisonTrimsBlanksAndIgnoresCase) {
+    Pasos("arboles/etapa_repetida.txt");
 }
 
+// Nothing is selected on opening; a single entry never enables the arrows.
 TEST_F(Etapas, TheButtonsFollowTheSelection) {
-    Abrir({"Diseño", "Obra", "Uso"});
-    EXPECT_EQ(ed.lstEtapas, (Lista{"Diseño", "Obra", "Uso"}));
-    EXPECT_EQ(Botones(), "---") << "nothing selected on opening";
-    const std::pair<int, const char*> casos[] = {{0, "E-B"}, {1, "ESB"}, {2, "ES-"}, {-1, "---"}};
-    for (const auto& [posicion, botones] : casos) {
-        ed.Seleccionar(posicion);
-        EXPECT_EQ(Botones(), botones) << posicion;
-    }
-    Abrir({"Única"});
-    ed.Seleccionar(0);
-    EXPECT_EQ(Botones(), "E--") << "a single entry never enables the arrows";
+    Pasos("arboles/pasos/etapas_botones.txt");
 }
 
+// After a removal nothing is selected. An empty name does nothing, a repeated one is told, and
+// a new one is stored as typed.
 TEST_F(Etapas, MovesRemovalsAndAdditionsEditTheListAndMarkTheModel) {
-    Abrir({"Diseño", "Obra", "Uso"});
-    ed.Seleccionar(2);
-    ed.Subir();
-    EXPECT_EQ(ed.lstEtapas, (Lista{"Diseño", "Uso", "Obra"}));
-    EXPECT_EQ(ed.Posicion, 1);
-    ed.Subir();
-    EXPECT_EQ(ed.Posicion, 0);
-    EXPECT_EQ(Botones(), "E-B");
-    EXPECT_TRUE(sesion().modelo.Modificado);
-    ed.Bajar();
-    ed.Bajar();
-    EXPECT_EQ(ed.lstEtapas, (Lista{"Diseño", "Obra", "Uso"}));
-    EXPECT_EQ(Botones(), "ES-");
-    ed.Eliminar();
-    EXPECT_EQ(ed.lstEtapas, (Lista{"Diseño", "Obra"}));
-    EXPECT_EQ(Botones(), "---") << "after removal nothing is selected";
-    EXPECT_FALSE(ed.AceptarNuevaEtapa("")) << "an empty name does nothing";
-    mensajes.Esperar("VADRO PROGRAMADOR: error", "No es posible repetir etapas del ciclo de vida.");
-    EXPECT_FALSE(ed.AceptarNuevaEtapa(" OBRA"));
-    EXPECT_TRUE(ed.AceptarNuevaEtapa(" Demolición"));
-    EXPECT_EQ(ed.lstEtapas, (Lista{"Diseño", "Obra", " Demolición"})) << "stored as typed";
+    Pasos("arboles/pasos/etapas_ediciones.txt");
 }
 
+// An empty list leaves one empty element.
 TEST_F(Etapas, WritingBackSizesTheModelsList) {
-    Abrir({"Diseño", "Obra"});
-    ed.AgregarEtapa("Uso");
-    ed.LlamaLlenarEtapas();
-    EXPECT_EQ(sesion().modelo.NumEtapas.Cuenta(), 3);
-    EXPECT_EQ(sesion().modelo.Etapas(3), "Uso");
-    ed.lstEtapas.clear();
-    ed.LlamaLlenarEtapas();
-    EXPECT_EQ(sesion().modelo.NumEtapas.Texto(), "0");
-    EXPECT_EQ(sesion().modelo.Etapas.Cota(), 1) << "one empty element stays";
-    EXPECT_EQ(sesion().modelo.Etapas(1), "");
+    Pasos("arboles/pasos/etapas_escritura.txt");
 }
 
 TEST_F(Etapas, ClosingAsksOnlyWhenNotAccepted) {
-    Acta acta;
-    acta.respuestas = {Respuesta::No, Respuesta::Si};
-    for (const bool aceptado : {true, false}) {
-        const std::string como = aceptado ? ", accepted" : "";
-        acta.Fila("close the requirements" + como,
-                  PuedeCerrarRequerimientos(aceptado) ? "closes" : "stays");
-        acta.Fila("close the components" + como,
-                  PuedeCerrarComponentes(aceptado) ? "closes" : "stays");
-    }
-    acta.Comparar("arboles/cerrar_disenos.txt");
+    Pasos("arboles/cerrar_disenos.txt", {Respuesta::No, Respuesta::Si});
 }
 
 } // namespace

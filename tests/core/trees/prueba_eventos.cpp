@@ -1,5 +1,4 @@
 #include "edicion_prueba.h"
-#include "soporte/acta.h"
 
 #include <gtest/gtest.h>
 
@@ -9,117 +8,42 @@ namespace {
 using namespace pruebas;
 using Eventos = PruebaEdicion;
 
-const std::string kMover = "VADRO PROGRAMADOR: mover nodo";
-
-std::string PreguntaMover(const std::string& viejo, const std::string& nuevo) {
-    return "En caso de haber sido introducidas, se borrarán las matrices de pesos "
-           "correspondientes a los nodos:\n- " +
-           viejo + "\n- " + nuevo +
-           "\n\nEstá usted seguro de querer mover el elemento seleccionado?";
-}
-
+// A dragged indicator may drop on a subcriterion or a criterion with indicators, not on a
+// criterion with subcriteria; the rule is tested again only on a new node under the pointer.
 TEST_F(Eventos, TheHighlightFollowsTheRuleAndIsTestedOnlyOnANewNode) {
     Abrir(true);
-    Arrastrar("I1C1R1", "C2R1");
-    EXPECT_EQ(ed.NivelArrastre, 4);
-    EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), nullptr) << "a criterion with subcriteria";
-    ed.ArrastrarSobre(N("S1C2R1"));
-    EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), N("S1C2R1"));
-    ed.ArrastrarSobre(N("C2R1"));
-    ed.tvwArbol.Quitar(N("S1C2R1"));
-    ed.ArrastrarSobre(N("C2R1"));
-    EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), nullptr) << "same node, no new test";
-    ed.ArrastrarSobre(N("C1R1"));
-    EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), N("C1R1")) << "a criterion with indicators";
+    Pasos("arboles/pasos/resaltado.txt");
 }
 
+// The selectors show the moved node.
 TEST_F(Eventos, ADropOnTheOwnParentMovesLastAndKeepsEveryWeight) {
     Abrir();
-    Arrastrar("I1C1R1", "C1R1");
-    ed.Soltar();
-    EXPECT_EQ(Claves(), "M[R1[C1R1[I2C1R1,I3C1R1,I1C1R1],C2R1],R2]");
-    EXPECT_EQ(Pesos("I1C1R1") + Pesos("I2C1R1"), "3/103/10");
-    EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), nullptr);
-    EXPECT_EQ(ed.Selector(4).Seleccion, 3) << "the selectors show the moved node";
+    Pasos("arboles/pasos/soltar_mismo_padre.txt");
 }
 
+// Copies have no records: on a Yes, the old parent's children get theirs first.
 TEST_F(Eventos, ADropElsewhereAsksAndOnYesErasesOldThenNewSiblings) {
     Abrir();
-    Arrastrar("I1C1R1", "C2R1");
-    mensajes.Esperar(kMover, PreguntaMover("C1", "C2"), Respuesta::No);
-    ed.Soltar();
-    EXPECT_EQ(Claves(), "M[R1[C1R1[I1C1R1,I2C1R1,I3C1R1],C2R1],R2]");
-    EXPECT_EQ(Pesos("I2C1R1"), "3/10");
-    EXPECT_EQ(ed.tvwArbol.ResaltadoDestino(), nullptr);
-    // Copies have no records: the old parent's children get theirs first.
-    Sel("C1R1");
-    ed.Copiar();
-    Sel("R2");
-    ed.Pegar();
-    ed.Pegar();
-    Arrastrar("I 10", "C 13");
-    mensajes.Esperar(kMover, PreguntaMover("C1", "C1"), Respuesta::Si);
-    ed.Soltar();
-    EXPECT_EQ(Tags().substr(Tags().find("R 8")),
-              "R 8#8[C 9#-[I 11#9,I 12#10],C 13#-[I 14#11,I 15#12,I 16#13,I 10#14]]]");
-    EXPECT_EQ(Pesos("I 11") + Pesos("I 10"), "2/4/");
+    Pasos("arboles/pasos/soltar_otro_padre.txt", {Respuesta::No, Respuesta::Si});
 }
 
-// The entries of a tree menu that show, "~" before a paste that is off, and the deletion's
-// caption.
-std::string Entradas(const MenuArbol& m) {
-    std::string texto;
-    for (const auto& [visible, nombre] : {std::pair{m.InsertarVisible, "Insertar"},
-                                          {m.Separador1Visible, "|"},
-                                          {m.EliminarVisible, "Eliminar"},
-                                          {m.AñadirRVisible, "AñadirR"},
-                                          {m.AñadirCVisible, "AñadirC"},
-                                          {m.AñadirSVisible, "AñadirS"},
-                                          {m.AñadirIVisible, "AñadirI"},
-                                          {m.CopiarVisible, "Copiar"},
-                                          {m.RenombrarVisible, "Renombrar"},
-                                          {m.Separadores23Visible, "||"}}) {
-        texto += visible ? std::string(nombre) + " " : "";
-    }
-    texto += m.PegarVisible ? (m.PegarHabilitado ? "Pegar" : "~Pegar") : "";
-    return texto + (m.EliminarVisible ? ", '" + m.EliminarTitulo + "'" : "");
-}
-
+// The menu by its target; a copy's level is noted at the next release, and a copied criterion
+// goes only under a requirement.
 TEST_F(Eventos, TheTreeMenuFollowsTheTargetAndThePasteRule) {
     Abrir(true, false);
-    Acta acta;
-    const auto menu = [&](const std::string& cuando, const char* clave) {
-        acta.Fila(cuando + "'" + clave + "'",
-                  Entradas(ed.MenuContextual(*clave ? N(clave) : nullptr)));
-    };
-    for (const char* clave : {"", "C1R1", "C2R1"}) {
-        menu("", clave);
-    }
-    ed.Copiar();
-    EXPECT_EQ(ed.NivelCopia, 0) << "noted at the next release";
-    for (const char* clave : {"R2", "I1C1R1", "M"}) {
-        menu("a criterion copied, ", clave);
-    }
-    EXPECT_EQ(ed.NivelCopia, 2);
-    acta.Comparar("arboles/menu_eventos.txt");
+    Pasos("arboles/pasos/menu.txt");
 }
 
-TEST_F(Eventos, KeysFollowTheSelectionDeleteCopyAndEditAndANodeKeyedPAsksBeforeARename) {
+// A key (down, 40) takes up the tree's selection as the current node, F2 (113) asks for the
+// label editor, Ctrl+C (3) copies, Delete (46) deletes; a rename reaches the selectors.
+TEST_F(Eventos, KeysFollowTheSelectionDeleteCopyAndEditAndARenameReachesTheSelectors) {
     Abrir();
-    Sel("I2C1R1");
-    EXPECT_EQ(ed.Tecla(40), PeticionTecla::Ninguna);
-    EXPECT_EQ(ed.NodoActual, N("I2C1R1"));
-    EXPECT_EQ(ed.NivelArrastre, 4);
-    EXPECT_EQ(ed.Selector(4).Seleccion, 2);
-    EXPECT_EQ(ed.Tecla(113), PeticionTecla::EditarEtiqueta);
-    ed.Caracter(3);
-    EXPECT_EQ(Forma(ed.tvwCopia), "I 9");
-    ed.Tecla(46);
-    EXPECT_EQ(Textos(), "Modelo [A[C1[i1,i3],C2],B]");
-    ed.SoltarRaton(N("R 7"));
-    EXPECT_TRUE(ed.Renombrar("Seguridad"));
-    EXPECT_EQ(ed.Selector(1).Nombres, (Lista{"A", "Seguridad"}));
-    ed.tvwArbol.Seleccionar(ed.tvwArbol.Añadir(N("M 1"), Relacion::UltimoHijo, "P", "x", 6));
+    Pasos("arboles/pasos/teclas.txt");
+}
+
+TEST_F(Eventos, ANodeKeyedPAsksBeforeARename) {
+    Abrir();
+    ed.tvwArbol.Seleccionar(ed.tvwArbol.Añadir(N("M"), Relacion::UltimoHijo, "P", "x", 6));
     const std::string titulo = "VADRO PROGRAMADOR: cambio de nombre";
     const std::string pregunta = "Está seguro que quiere cambiar el nombre del modelo?";
     mensajes.Esperar(titulo, pregunta, Respuesta::No).Esperar(titulo, pregunta, Respuesta::Si);
@@ -129,22 +53,11 @@ TEST_F(Eventos, KeysFollowTheSelectionDeleteCopyAndEditAndANodeKeyedPAsksBeforeA
     EXPECT_EQ(N("P")->Text(), "presa ébano");
 }
 
+// The description and the function button make the record a pasted node lacks first; the new
+// record erases its siblings' weights. The function button is off away from indicators.
 TEST_F(Eventos, DescriptionAndFunctionMakeTheMissingRecordFirst) {
     Abrir();
-    Sel("I1C1R1");
-    ed.Copiar();
-    Sel("C1R1");
-    ed.Pegar();
-    ed.SoltarRaton(N("I 9"));
-    EXPECT_FALSE(N("I 9")->Tag());
-    ed.CambiarDescripcion("n");
-    EXPECT_EQ(Reg("I 9").Descripcion, "n");
-    EXPECT_EQ(Pesos("I 4"), "4/") << "the new record erased its siblings' weights";
-    ed.SoltarRaton(N("I 5"));
-    EXPECT_EQ(ed.ClicFuncion(), "i2");
-    EXPECT_EQ(sesion().NodoEdicionActual, 5);
-    ed.SoltarRaton(N("C 3"));
-    EXPECT_EQ(ed.ClicFuncion(), std::nullopt) << "the button is off away from indicators";
+    Pasos("arboles/pasos/descripcion.txt");
 }
 
 } // namespace

@@ -41,8 +41,6 @@ TEST_F(Componentes, DragCopyAndPasteMoveOptionsBetweenComponentsAndMarkTheModel)
     PonerComponentes(sesion().modelo, {{"Bombas", {"Motor", "Carcasa"}}, {"Tuberías", {}}});
     sesion().modelo.Modificado = false;
     QWidget* c = AbrirPaso(2, "frmComponentes");
-    EXPECT_EQ(Marco(c, 1)->title().toStdString(), "Componente 1");
-    EXPECT_EQ(Marco(c, 2)->title().toStdString(), "Subcomponentes del comp. 1");
     Arrastrar(c, "Sc1Co1", "Co2"); // no question: no weights hang on components
     EXPECT_EQ(Mostrado(c), "Bombas[Carcasa],Tuberías[Motor]");
     EXPECT_TRUE(sesion().modelo.Modificado);
@@ -84,8 +82,7 @@ TEST_F(Etapas, TheButtonsFollowTheSelectionAndTheListIsWrittenOnAcceptance) {
     boton("cmdSubir")->click();
     boton("cmdSubir")->click();
     EXPECT_EQ(lista->currentItem()->text().toStdString(), "Uso");
-    EXPECT_EQ(estado(), "+-+");
-    CompararVolcado(*e, "frmEtapas");
+    CompararVolcado(*e, "frmEtapas"); // the list's order and the buttons' states at the top
     boton("cmdEliminar")->click();
     EXPECT_EQ(estado(), "---");
     EXPECT_EQ(lista->count(), 2);

@@ -1,7 +1,7 @@
-#include "core/core/comunes.h"
+#include "ventana_arbol.h"
+
 #include "core/trees/edicion_requerimientos.h"
 #include "soporte/modelo_sano.h"
-#include "soporte/prueba_sesion.h"
 #include "windows/trees/modelo_arbol.h"
 
 #include <QAbstractItemModelTester>
@@ -28,19 +28,6 @@ protected:
     }
     NodoArbol* N(const std::string& clave) { return ed.tvwArbol.NodoPorClave(clave); }
     void Sel(const std::string& clave) { ed.tvwArbol.Seleccionar(N(clave)); }
-    // What the view shows, each row as its text, children in brackets.
-    std::string Filas(const QModelIndex& padre = {}) {
-        std::string texto;
-        for (int fila = 0; fila < modelo.rowCount(padre); ++fila) {
-            const QModelIndex hijo = modelo.index(fila, 0, padre);
-            texto += Unir({fila > 0 ? "," : "", hijo.data().toString().toStdString()});
-            if (modelo.rowCount(hijo) > 0) {
-                texto += Unir({"[", Filas(hijo), "]"});
-            }
-        }
-        return texto;
-    }
-
     EdicionRequerimientos ed{SesionActual()};
     ModeloArbol modelo{ed.tvwArbol};
     QAbstractItemModelTester tester{&modelo, QAbstractItemModelTester::FailureReportingMode::Fatal};
@@ -51,7 +38,7 @@ TEST_F(ModeloArbolPrueba, EveryOperationReachesTheViewThroughValidNotices) {
     const std::string inicial =
         "Modelo [Económico[Inversión[Coste,Plazo],Explotación[Coste,Plazo]],"
         "Social[Empleo[Coste,Plazo],Seguridad[Coste,Plazo]]]";
-    EXPECT_EQ(Filas(), inicial);
+    EXPECT_EQ(Filas(modelo), inicial);
     EXPECT_TRUE(vista.isExpanded(modelo.Indice(N("C2R2")))) << "loaded nodes come expanded";
     EXPECT_EQ(ModeloArbol::Nodo(vista.currentIndex()), N("M")) << "the first node is current";
 
@@ -64,9 +51,10 @@ TEST_F(ModeloArbolPrueba, EveryOperationReachesTheViewThroughValidNotices) {
     Sel("M");
     ed.Pegar(); // 7 nodes, the keys renumbered
     modelo.Sincronizar(vista);
-    EXPECT_EQ(Filas(), "Modelo [Económico[Inversión[Sub[Coste,Plazo]],Explotación[Coste,Indicador,"
-                       "Plazo]],Social[Empleo[Coste,Plazo],Seguridad[Coste,Plazo]],Social[Empleo["
-                       "Coste,Plazo],Seguridad[Coste,Plazo]]]");
+    EXPECT_EQ(Filas(modelo),
+              "Modelo [Económico[Inversión[Sub[Coste,Plazo]],Explotación[Coste,Indicador,"
+              "Plazo]],Social[Empleo[Coste,Plazo],Seguridad[Coste,Plazo]],Social[Empleo["
+              "Coste,Plazo],Seguridad[Coste,Plazo]]]");
     EXPECT_EQ(ModeloArbol::Nodo(vista.currentIndex()), N("M 1"));
 }
 
@@ -79,19 +67,16 @@ TEST_F(ModeloArbolPrueba, MovesIncludingALastChildToTheEndOfItsOwnParent) {
     ed.tvwArbol.Mover(N("I1C1R2"), N("C2R1"));
     ed.tvwArbol.Mover(N("R1"), N("M")); // the last requirement but one, to the end
     EXPECT_EQ(movidas.count(), 3);
-    EXPECT_EQ(Filas(), "Modelo [Social[Empleo[Plazo],Seguridad[Coste,Plazo]],Económico["
-                       "Explotación[Coste,Plazo,Coste],Inversión[Coste,Plazo]]]");
+    EXPECT_EQ(Filas(modelo), "Modelo [Social[Empleo[Plazo],Seguridad[Coste,Plazo]],Económico["
+                             "Explotación[Coste,Plazo,Coste],Inversión[Coste,Plazo]]]");
 }
 
 TEST_F(ModeloArbolPrueba, RemovalRenamingAndTheDropHighlightReachTheRows) {
     QSignalSpy cambios(&modelo, &QAbstractItemModel::dataChanged);
-    mensajes.Esperar("VADRO PROGRAMADOR: eliminar nodo",
-                     "El elemento selecionado tiene uno o más subnodos. Está seguro que quiere "
-                     "eliminarlo?",
-                     Respuesta::Si);
+    mensajes.Esperar(kEliminarNodo, kPreguntaEliminar, Respuesta::Si);
     Sel("R1");
     ed.Eliminar();
-    EXPECT_EQ(Filas(), "Modelo [Social[Empleo[Coste,Plazo],Seguridad[Coste,Plazo]]]");
+    EXPECT_EQ(Filas(modelo), "Modelo [Social[Empleo[Coste,Plazo],Seguridad[Coste,Plazo]]]");
     cambios.clear();
     ed.Reordenar();
     EXPECT_EQ(cambios.count(), 0) << "keys are not shown: renumbering costs the view nothing";

@@ -35,12 +35,16 @@ TEST_F(Requerimientos, AModelBuiltThroughTheWindowsIsWhatTheFileHolds) {
     QWidget* r = AbrirPaso(1, "frmRequerimientos");
     EXPECT_EQ(Mostrado(r), "Modelo ");
 
+    // Each node added from the menu over another and named.
+    const auto añadir = [&](std::initializer_list<std::array<const char*, 3>> pasos) {
+        for (const auto& [nodo, entrada, nombre] : pasos) {
+            Elegir(*MenuSobre(r, nodo, "mnuArbolR"), entrada);
+            Renombrar(r, nombre);
+        }
+    };
     Flecha(r, 1, true);
     Renombrar(r, "Seguridad");
-    Elegir(*MenuSobre(r, "R 2", "mnuArbolR"), "mnuAñadirC");
-    Renombrar(r, "Estructura");
-    Elegir(*MenuSobre(r, "C 3", "mnuArbolR"), "mnuAñadirI");
-    Renombrar(r, "Resistencia");
+    añadir({{"R 2", "mnuAñadirC", "Estructura"}, {"C 3", "mnuAñadirI", "Resistencia"}});
     Teclas(Hijo<QPlainTextEdit>(*r, "txtDescripcion"), QStringLiteral("MPa a compresión"));
     EXPECT_EQ(Mostrado(r), "Modelo [Seguridad[Estructura[Resistencia]]]");
     auto* cmdFuncion = Hijo<QPushButton>(*r, "cmdFuncion");
@@ -60,18 +64,12 @@ TEST_F(Requerimientos, AModelBuiltThroughTheWindowsIsWhatTheFileHolds) {
     Teclear(Marco(r, 4)->cbbNodos->lineEdit(), "Flecha");
     EXPECT_EQ(Marco(r, 4)->lblNumNodos->text().toStdString(), "2");
 
-    Elegir(*MenuSobre(r, "M", "mnuArbolR"), "mnuAñadirR");
-    Renombrar(r, "Coste");
-    Elegir(*MenuSobre(r, "R 6", "mnuArbolR"), "mnuAñadirC");
-    Renombrar(r, "Inversión");
-    Elegir(*MenuSobre(r, "C 7", "mnuArbolR"), "mnuAñadirS");
-    Renombrar(r, "Obra");
-    Elegir(*MenuSobre(r, "S 8", "mnuArbolR"), "mnuAñadirI");
-    Renombrar(r, "Precio");
-    Elegir(*MenuSobre(r, "R 6", "mnuArbolR"), "mnuAñadirC");
-    Renombrar(r, "Mantenimiento");
-    Elegir(*MenuSobre(r, "C 10", "mnuArbolR"), "mnuAñadirI");
-    Renombrar(r, "Anual");
+    añadir({{"M", "mnuAñadirR", "Coste"},
+            {"R 6", "mnuAñadirC", "Inversión"},
+            {"C 7", "mnuAñadirS", "Obra"},
+            {"S 8", "mnuAñadirI", "Precio"},
+            {"R 6", "mnuAñadirC", "Mantenimiento"},
+            {"C 10", "mnuAñadirI", "Anual"}});
     EXPECT_EQ(Mostrado(r), "Modelo [Seguridad[Estructura[Resistencia,Flecha]],Coste[Inversión["
                            "Obra[Precio]],Mantenimiento[Anual]]]");
     Hijo<QPushButton>(*r, "cmdAceptar")->click();
@@ -123,11 +121,8 @@ TEST_F(Requerimientos, DraggingACriterionToAnotherRequirementAsksAndLosesTheWeig
     NuevoModelo();
     sesion().modelo = ModeloCorrecto();
     QWidget* r = AbrirPaso(1, "frmRequerimientos");
-    const std::string pregunta =
-        "En caso de haber sido introducidas, se borrarán las matrices de pesos correspondientes "
-        "a los nodos:\n- Económico\n- Social\n\nEstá usted seguro de querer mover el elemento "
-        "seleccionado?";
-    mensajes.Esperar("VADRO PROGRAMADOR: mover nodo", pregunta, Respuesta::No);
+    const std::string pregunta = PreguntaMover("Económico", "Social");
+    mensajes.Esperar(kMoverNodo, pregunta, Respuesta::No);
     Arrastrar(r, "C1R1", "R2");
     const std::string antes = "Modelo [Económico[Inversión[Coste,Plazo],Explotación[Coste,Plazo]],"
                               "Social[Empleo[Coste,Plazo],Seguridad[Coste,Plazo]]]";
@@ -136,7 +131,7 @@ TEST_F(Requerimientos, DraggingACriterionToAnotherRequirementAsksAndLosesTheWeig
     EXPECT_EQ(Mostrado(r), antes);
     EXPECT_EQ(Arbol(r)->viewport()->cursor().shape(), Qt::ArrowCursor) << "the drag icon goes";
 
-    mensajes.Esperar("VADRO PROGRAMADOR: mover nodo", pregunta, Respuesta::Si);
+    mensajes.Esperar(kMoverNodo, pregunta, Respuesta::Si);
     Arrastrar(r, "C1R1", "R2");
     EXPECT_EQ(Mostrado(r), "Modelo [Económico[Explotación[Coste,Plazo]],Social[Empleo[Coste,"
                            "Plazo],Seguridad[Coste,Plazo],Inversión[Coste,Plazo]]]");

@@ -108,24 +108,20 @@ void VentanaArbol::Renombrar(QWidget* ventana, const std::string& texto) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-namespace {
-
-std::string Rama(const QAbstractItemModel& modelo, const QModelIndex& padre) {
+std::string Filas(const QAbstractItemModel& modelo, const QModelIndex& padre) {
     std::string texto;
     for (int fila = 0; fila < modelo.rowCount(padre); ++fila) {
         const QModelIndex hijo = modelo.index(fila, 0, padre);
         texto += Unir({fila > 0 ? "," : "", hijo.data().toString().toStdString()});
         if (modelo.rowCount(hijo) > 0) {
-            texto += Unir({"[", Rama(modelo, hijo), "]"});
+            texto += Unir({"[", Filas(modelo, hijo), "]"});
         }
     }
     return texto;
 }
 
-} // namespace
-
 std::string VentanaArbol::Mostrado(QWidget* ventana) {
-    return Rama(*Arbol(ventana)->model(), {});
+    return Filas(*Arbol(ventana)->model());
 }
 
 void VentanaArbol::Teclas(QWidget* destino, const QString& texto) {

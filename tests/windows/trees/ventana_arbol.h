@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../shell/ventana_principal.h"
+#include "mensajes_arbol.h"
 
 #include "windows/trees/selector_nivel.h"
 #include "windows/trees/vista_arbol.h"
@@ -10,6 +11,10 @@
 #include <string>
 
 namespace vadro::pruebas {
+
+// The rows of an item model under a parent, each as its text, children in brackets, siblings
+// apart by commas.
+std::string Filas(const QAbstractItemModel& modelo, const QModelIndex& padre = {});
 
 // A main window with a model, and the means to work a tree window as a user does: point at a
 // node by its key, click, right-click, drag, press keys, work the popup menu and the selectors.
