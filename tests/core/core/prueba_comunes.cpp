@@ -23,7 +23,7 @@ using namespace pruebas;
 TEST(Comunes, FileNamesIntervalsAndTheNumericKeyFilter) {
     std::setlocale(LC_NUMERIC, "C");
     const auto texto = [](std::string (*funcion)(const std::string&)) {
-        return [funcion](const Argumentos& a) { return "'" + funcion(a.at(0)) + "'"; };
+        return [funcion](const Argumentos& a) { return Unir({"'", funcion(a.at(0)), "'"}); };
     };
     const auto tecla = [](int codigo) {
         return codigo >= ' ' ? std::string(1, static_cast<char>(codigo))

@@ -1,4 +1,5 @@
 #include "core/core/arreglo.h"
+#include "core/core/comunes.h"
 #include "core/core/error_ejecucion.h"
 #include "core/core/formato_numero.h"
 #include "core/core/valor_libre.h"
@@ -54,7 +55,9 @@ TEST(ValorLibre, NumbersReadWrittenCountedAndShown) {
          {"AEntero32", [&](const Argumentos& a) { return std::to_string(AEntero32(numero(a))); }},
          {"Formato00", [&](const Argumentos& a) { return Formato00(numero(a)); }},
          {"Formato00DeTexto",
-          [](const Argumentos& a) { return "'" + Formato00(ValorLibre(a.at(0))) + "'"; }},
+          [](const Argumentos& a) {
+              return Unir({"'", Formato00(ValorLibre(a.at(0))), "'"});
+          }},
          {"FormatoDecimal",
           [&](const Argumentos& a) { return FormatoDecimal(numero(a), std::stoi(a.at(1))); }},
          {"Redondeado00", [&](const Argumentos& a) { return Exacto(Redondeado00(numero(a))); }}});

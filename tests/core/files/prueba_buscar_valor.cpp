@@ -1,4 +1,5 @@
 #include "core/core/codigo_pagina.h"
+#include "core/core/comunes.h"
 #include "core/files/formato.h"
 #include "core/files/texto_modelo.h"
 #include "soporte/acta.h"
@@ -30,8 +31,8 @@ TEST(BuscarValor, TheCornersOfTheSearch) {
         ArchivoEntrada archivo(lineas);
         archivo.IrA(std::stoul(caso.campos.at(1)));
         const ValorLibre valor = BuscarValor(archivo, caso.campos.at(2));
-        acta.Fila(caso.texto, (valor.EsVacio() ? "nothing" : "'" + valor.Texto() + "'") + ", at " +
-                                  std::to_string(archivo.Posicion()));
+        const std::string hallado = valor.EsVacio() ? "nothing" : Unir({"'", valor.Texto(), "'"});
+        acta.Fila(caso.texto, Unir({hallado, ", at ", std::to_string(archivo.Posicion())}));
     }
     acta.Comparar("archivos/buscar_valor.txt");
 }
@@ -42,10 +43,9 @@ TEST(Formato, NumbersPrintAndScaleAsTheDataFileSays) {
     for (const pruebas::Caso& caso : pruebas::Casos("archivos/formato.txt")) {
         const std::string& numero = caso.campos.at(1);
         const ValorLibre valor = numero.empty() ? ValorLibre() : ValorLibre(std::stod(numero));
-        acta.Fila(caso.texto, "'" +
-                                  (caso.campos.at(0) == "printed" ? FormaImpresa(std::stod(numero))
-                                                                  : NumeroEscalado(valor)) +
-                                  "'");
+        const std::string escrito = caso.campos.at(0) == "printed" ? FormaImpresa(std::stod(numero))
+                                                                   : NumeroEscalado(valor);
+        acta.Fila(caso.texto, Unir({"'", escrito, "'"}));
     }
     acta.Comparar("archivos/formato.txt");
     EXPECT_EQ(LeerEscalado(ValorLibre("1500000")), ValorLibre(1.5));

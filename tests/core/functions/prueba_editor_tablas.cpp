@@ -1,4 +1,5 @@
 // The editor's table grids: optional indicators and scoring elements.
+#include "core/core/comunes.h"
 #include "core/files/seccion_funcion.h"
 #include "editor_sin_ventana.h"
 #include "soporte/guion_dialogos.h"
@@ -248,7 +249,7 @@ TEST_F(Tablas, OptionalIndicatorsAreReadWithTheirFallbacksAndWrittenBack) {
         for (int i = 1; i <= f.Optativos.Tamano(); ++i) {
             f.Optativos(i).Nombre = caso.campos.at(static_cast<std::size_t>(i) + 2);
             f.Optativos(i).Funcion = pruebas::DeEscalones<FuncionOptativo>();
-            f.Optativos(i).Funcion.Unidades = "u" + std::to_string(i);
+            f.Optativos(i).Funcion.Unidades = Unir({"u", std::to_string(i)});
         }
         EditorFuncion e;
         FuncionValor leido = f;

@@ -1,5 +1,6 @@
 // How the rows of a printed list fall on its pages.
 
+#include "core/core/comunes.h"
 #include "core/reports/impresion.h"
 #include "soporte/acta.h"
 
@@ -15,7 +16,7 @@ namespace {
 std::string Texto(const std::vector<PaginaLista>& paginas) {
     std::string texto;
     for (const PaginaLista& p : paginas) {
-        texto += "[" + std::to_string(p.primera) + "+" + std::to_string(p.filas) + "]";
+        texto += Unir({"[", std::to_string(p.primera), "+", std::to_string(p.filas), "]"});
     }
     return texto;
 }

@@ -9,7 +9,7 @@ namespace {
 TEST(Propiedades, LoadAndAcceptanceCopyTheTextsAsTheyStand) {
     Modelo m;
     m.Nombre = "Depuradora";
-    m.Version = "2";
+    m.Version = std::string("2");
     m.Aplicacion = "1.0.0";
     EXPECT_EQ(LeerPropiedades(m),
               (std::array<std::string, 7>{"Depuradora", "", "", "", "", "2", ""}));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../core/tabla_funciones.h"
+#include "core/core/comunes.h"
 #include "modelo_prueba.h"
 #include "volcado.h"
 
@@ -328,7 +329,7 @@ protected:
                    [this](const Argumentos&) {
                        std::string texto;
                        for (const int posicion : ed.UltimasPosiciones) {
-                           texto += (texto.empty() ? "" : " ") + std::to_string(posicion);
+                           texto += Unir({texto.empty() ? "" : " ", std::to_string(posicion)});
                        }
                        return texto;
                    }},

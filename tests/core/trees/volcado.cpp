@@ -1,5 +1,6 @@
 #include "volcado.h"
 
+#include "core/core/comunes.h"
 #include "core/core/registros.h"
 
 #include <vector>
@@ -11,7 +12,7 @@ namespace {
 std::string Rama(const NodoArbol& nodo, const std::function<std::string(const NodoArbol&)>& campo) {
     std::string texto = campo(nodo);
     for (const NodoArbol* hijo : nodo.Hijos()) {
-        texto += (hijo == nodo.PrimerHijo() ? "[" : ",") + Rama(*hijo, campo);
+        texto += Unir({hijo == nodo.PrimerHijo() ? "[" : ",", Rama(*hijo, campo)});
     }
     return texto + (nodo.NumHijos() > 0 ? "]" : "");
 }
@@ -21,7 +22,7 @@ std::string Rama(const NodoArbol& nodo, const std::function<std::string(const No
 std::string Forma(const Arbol& arbol, const std::function<std::string(const NodoArbol&)>& campo) {
     std::string texto;
     for (const NodoArbol* raiz : arbol.Raices()) {
-        texto += (texto.empty() ? "" : ";") + Rama(*raiz, campo);
+        texto += Unir({texto.empty() ? "" : ";", Rama(*raiz, campo)});
     }
     return texto;
 }
