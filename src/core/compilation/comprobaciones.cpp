@@ -137,18 +137,6 @@ template <typename F> void ParaCadaIndicador(const Modelo& modelo, F&& f) {
 
 // ---- repeated names
 
-// The bytes of the UTF-8 character that starts at i; a broken sequence ends early.
-std::size_t LargoCaracter(const std::string& texto, std::size_t i) {
-    const auto inicio = static_cast<unsigned char>(texto[i]);
-    const std::size_t esperado = inicio >= 0xF0 ? 4 : inicio >= 0xE0 ? 3 : inicio >= 0xC0 ? 2 : 1;
-    std::size_t largo = 1;
-    while (largo < esperado && i + largo < texto.size() &&
-           (static_cast<unsigned char>(texto[i + largo]) & 0xC0) == 0x80) {
-        ++largo;
-    }
-    return largo;
-}
-
 // Every pair p < q of siblings that bear one name, p ascending and q ascending within it.
 // Sorting the names first keeps a large set from comparing every name with every other.
 template <typename NombreDe, typename F>
@@ -159,7 +147,8 @@ void ParaCadaParRepetido(int cuenta, NombreDe&& nombreDe, F&& f) {
     const auto n = static_cast<std::size_t>(cuenta);
     std::vector<std::string> nombres(n);
     for (std::size_t k = 0; k < n; ++k) {
-        nombres[k] = NombreComparable(nombreDe(static_cast<int>(k) + 1));
+        // Upper case, accents included: "Agua", "AGUA" and "agua" are one name.
+        nombres[k] = EnMayusculas(nombreDe(static_cast<int>(k) + 1));
     }
     std::vector<std::size_t> orden(n);
     std::iota(orden.begin(), orden.end(), std::size_t{0});
@@ -436,34 +425,6 @@ void InformarCriterio(InformeErrores& informe, const NodoCriterio& criterio,
 
 bool ConNivelSubcriterios(const Modelo& modelo) {
     return modelo.ConSubcriterios && HaySubcriterios(modelo);
-}
-
-// A character the 8-bit page lacks keeps its form; two such characters are one name only if
-// they are the same.
-std::string NombreComparable(const std::string& nombre) {
-    std::string comparable;
-    comparable.reserve(nombre.size());
-    std::size_t i = 0;
-    while (i < nombre.size()) {
-        const auto codigo = static_cast<unsigned char>(nombre[i]);
-        if (codigo < 0x80) {
-            comparable += static_cast<char>(MayusculaOchoBits(codigo));
-            ++i;
-            continue;
-        }
-        const std::size_t largo = LargoCaracter(nombre, i);
-        const std::string caracter = nombre.substr(i, largo);
-        const std::string ochoBits = AOchoBits(caracter);
-        if (ochoBits.size() == 1 && ochoBits != "?") {
-            const auto mayuscula =
-                static_cast<char>(MayusculaOchoBits(static_cast<unsigned char>(ochoBits.front())));
-            comparable += DesdeOchoBits(std::string(1, mayuscula));
-        } else {
-            comparable += caracter;
-        }
-        i += largo;
-    }
-    return comparable;
 }
 
 void ComprobarExistenciaEtapas(const Modelo& modelo, InformeErrores& informe) {

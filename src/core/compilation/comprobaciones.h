@@ -27,8 +27,4 @@ void ComprobarArbolIncompleto(const Modelo& modelo, InformeErrores& informe);
 // and some criterion really has subcriteria.
 bool ConNivelSubcriterios(const Modelo& modelo);
 
-// A name as it is compared for repetition: in upper case, letters with accents included, so
-// that "Agua", "AGUA" and "agua" are one name.
-std::string NombreComparable(const std::string& nombre);
-
 } // namespace vadro

@@ -135,4 +135,52 @@ unsigned char MayusculaOchoBits(unsigned char codigo) {
     }
 }
 
+unsigned char MinusculaOchoBits(unsigned char codigo) {
+    if (codigo >= 'A' && codigo <= 'Z') {
+        return static_cast<unsigned char>(codigo + 32);
+    }
+    if (codigo >= 0xC0 && codigo <= 0xDE && codigo != 0xD7) {
+        return static_cast<unsigned char>(codigo + 32);
+    }
+    switch (codigo) {
+    case 0x8A: // Š
+    case 0x8C: // Œ
+    case 0x8E: // Ž
+        return static_cast<unsigned char>(codigo + 16);
+    case 0x9F: // Ÿ
+        return 0xFF;
+    default:
+        return codigo;
+    }
+}
+
+namespace {
+
+// Each character of the page through `cambio`; the others, and broken sequences, as they are.
+std::string CambiarCaracteres(std::string_view utf8, unsigned char (*cambio)(unsigned char)) {
+    std::string resultado;
+    resultado.reserve(utf8.size());
+    std::size_t i = 0;
+    while (i < utf8.size()) {
+        const std::size_t inicio = i;
+        const int codigo = CodigoDeCaracter(LeerUtf8(utf8, i));
+        if (codigo < 0) {
+            resultado.append(utf8.substr(inicio, i - inicio));
+        } else {
+            AnadirUtf8(resultado, CaracterDeCodigo(cambio(static_cast<unsigned char>(codigo))));
+        }
+    }
+    return resultado;
+}
+
+} // namespace
+
+std::string EnMayusculas(std::string_view utf8) {
+    return CambiarCaracteres(utf8, MayusculaOchoBits);
+}
+
+std::string EnMinusculas(std::string_view utf8) {
+    return CambiarCaracteres(utf8, MinusculaOchoBits);
+}
+
 } // namespace vadro

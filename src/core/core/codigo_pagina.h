@@ -15,7 +15,13 @@ std::string DesdeOchoBits(std::string_view ochoBits);
 // UTF-8 to 8-bit text; a character the page lacks, or a broken UTF-8 sequence, becomes "?".
 std::string AOchoBits(std::string_view utf8);
 
-// Upper case of an 8-bit code, for comparisons that ignore case.
+// Upper and lower case of an 8-bit code, as the page pairs its letters.
 unsigned char MayusculaOchoBits(unsigned char codigo);
+unsigned char MinusculaOchoBits(unsigned char codigo);
+
+// Upper and lower case of UTF-8 text, letter by letter as the page pairs them, so that names
+// compare and print alike whatever their case; a character the page lacks keeps its form.
+std::string EnMayusculas(std::string_view utf8);
+std::string EnMinusculas(std::string_view utf8);
 
 } // namespace vadro

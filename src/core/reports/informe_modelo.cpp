@@ -1,5 +1,6 @@
 #include "core/reports/informe_modelo.h"
 
+#include "core/core/codigo_pagina.h"
 #include "core/core/comunes.h"
 
 #include "core/core/formato_numero.h"
@@ -163,35 +164,6 @@ void Informe::AñadirImagen(DibujoInforme dibujo, std::shared_ptr<const FuncionV
     pieza.Dibujo = dibujo;
     pieza.Funcion = std::move(funcion);
     lineas_.back().Piezas.push_back(std::move(pieza));
-}
-
-std::string EnMayusculas(const std::string& texto) {
-    std::string resultado = texto;
-    for (std::size_t i = 0; i < resultado.size(); ++i) {
-        const auto c = static_cast<unsigned char>(resultado[i]);
-        if (c >= 'a' && c <= 'z') {
-            resultado[i] = static_cast<char>(c - 32);
-        } else if (c == 0xC3 && i + 1 < resultado.size()) {
-            // Small letters from "à" to "þ", except the sign "÷", are 0x20 above their capitals
-            // in the second byte; "ÿ" has its capital in another block; "ß" has none.
-            const auto segundo = static_cast<unsigned char>(resultado[i + 1]);
-            if (segundo >= 0xA0 && segundo <= 0xBE && segundo != 0xB7) {
-                resultado[i + 1] = static_cast<char>(segundo - 0x20);
-            } else if (segundo == 0xBF) {
-                resultado[i] = static_cast<char>(0xC5);
-                resultado[i + 1] = static_cast<char>(0xB8);
-            }
-            ++i;
-        } else if (c == 0xC5 && i + 1 < resultado.size()) {
-            // "š", "œ", "ž" of the code page.
-            const auto segundo = static_cast<unsigned char>(resultado[i + 1]);
-            if (segundo == 0xA1 || segundo == 0x93 || segundo == 0xBE) {
-                resultado[i + 1] = static_cast<char>(segundo - 1);
-            }
-            ++i;
-        }
-    }
-    return resultado;
 }
 
 std::string TituloInforme(const Modelo& modelo) {

@@ -107,8 +107,6 @@ std::string TextoForma(const FuncionValor& funcion);
 // The picture of a function: a step function its step drawing; any other its continuous
 // drawing when RMin, RMax, C, K and P are all defined, else the crossed box.
 DibujoInforme DibujoDeFuncion(const FuncionValor& funcion);
-// Upper case of a UTF-8 text, for the letters of the Western code page.
-std::string EnMayusculas(const std::string& texto);
 
 // The writers of the report's parts, each at the end of the report.
 void AñadirPropiedades(Informe& informe, const Modelo& modelo);

@@ -1,5 +1,6 @@
 #include "core/trees/edicion_etapas.h"
 
+#include "core/core/codigo_pagina.h"
 #include "core/core/mensajes.h"
 
 #include <algorithm>
@@ -15,25 +16,6 @@ std::string SinBlancos(const std::string& texto) {
         return "";
     }
     return texto.substr(primero, texto.find_last_not_of(' ') - primero + 1);
-}
-
-// Upper case for the letters of the Western code page, in UTF-8.
-std::string EnMayusculas(const std::string& texto) {
-    std::string resultado = texto;
-    for (std::size_t i = 0; i < resultado.size(); ++i) {
-        const auto c = static_cast<unsigned char>(resultado[i]);
-        if (c >= 'a' && c <= 'z') {
-            resultado[i] = static_cast<char>(c - 32);
-        } else if (c == 0xC3 && i + 1 < resultado.size()) {
-            // Small letters from "à" to "þ", except the sign "÷", are 0x20 above their capitals.
-            const auto segundo = static_cast<unsigned char>(resultado[i + 1]);
-            if (segundo >= 0xA0 && segundo <= 0xBE && segundo != 0xB7) {
-                resultado[i + 1] = static_cast<char>(segundo - 0x20);
-            }
-            ++i;
-        }
-    }
-    return resultado;
 }
 
 const char* const kCerrarRequerimientos =

@@ -1,5 +1,6 @@
 #include "core/trees/edicion_requerimientos.h"
 
+#include "core/core/codigo_pagina.h"
 #include "core/core/mensajes.h"
 
 namespace vadro {

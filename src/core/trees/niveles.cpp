@@ -1,5 +1,7 @@
 #include "core/trees/niveles.h"
 
+#include "core/core/codigo_pagina.h"
+
 #include <algorithm>
 
 namespace vadro {
@@ -28,35 +30,6 @@ std::string TextoNivel(int nivel, const Modelo& modelo) {
     default:
         return "";
     }
-}
-
-std::string EnMinusculas(const std::string& texto) {
-    std::string resultado = texto;
-    for (std::size_t i = 0; i < resultado.size(); ++i) {
-        const auto c = static_cast<unsigned char>(resultado[i]);
-        if (c >= 'A' && c <= 'Z') {
-            resultado[i] = static_cast<char>(c + 32);
-        } else if (c == 0xC3 && i + 1 < resultado.size()) {
-            // Capitals from "À" to "Þ", except the sign "×", are two bytes apart from their
-            // small letters by 0x20 in the second byte.
-            const auto segundo = static_cast<unsigned char>(resultado[i + 1]);
-            if (segundo >= 0x80 && segundo <= 0x9E && segundo != 0x97) {
-                resultado[i + 1] = static_cast<char>(segundo + 0x20);
-            }
-            ++i;
-        } else if (c == 0xC5 && i + 1 < resultado.size()) {
-            // "Š", "Œ", "Ž" of the code page.
-            const auto segundo = static_cast<unsigned char>(resultado[i + 1]);
-            if (segundo == 0xA0 || segundo == 0x92 || segundo == 0xBD) {
-                resultado[i + 1] = static_cast<char>(segundo + 1);
-            } else if (segundo == 0xB8) { // "Ÿ" is "ÿ" in another block
-                resultado[i] = static_cast<char>(0xC3);
-                resultado[i + 1] = static_cast<char>(0xBF);
-            }
-            ++i;
-        }
-    }
-    return resultado;
 }
 
 namespace {

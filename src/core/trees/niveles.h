@@ -27,9 +27,6 @@ int ImagenNivel(int nivel);
 // "Indicador", or for the root "Modelo " and the model's name in lower case.
 std::string TextoNivel(int nivel, const Modelo& modelo);
 
-// Lower case of a UTF-8 text, for the letters of the Western code page.
-std::string EnMinusculas(const std::string& texto);
-
 // True if any child of the node is an indicator, or a subcriterion.
 bool TieneIndicadores(const NodoArbol* nodo);
 bool TieneSubcriterios(const NodoArbol* nodo);

@@ -1,3 +1,4 @@
+#include "core/core/codigo_pagina.h"
 #include "core/core/comunes.h"
 #include "core/core/error_ejecucion.h"
 
@@ -75,6 +76,28 @@ TEST(Comunes, ComponentRowsAndStages) {
     m.Etapas(2) = "Obra";
     m.Etapas(3) = "sobrante";
     EXPECT_EQ(LlenarEtapas(m), (std::vector<std::string>{"Diseño", "Obra"})) << "the count governs";
+}
+
+// Every letter of the page has its pair both ways, and a character the page lacks keeps its
+// form, so names compare alike whatever their case, accents included, and no other.
+TEST(CodigoPagina, UpperAndLowerCaseFollowThePageLetterByLetter) {
+    int pares = 0;
+    for (int codigo = 1; codigo < 256; ++codigo) {
+        const auto c = static_cast<unsigned char>(codigo);
+        const std::string caracter = DesdeOchoBits(std::string(1, static_cast<char>(c)));
+        const unsigned char mayuscula = MayusculaOchoBits(c);
+        EXPECT_EQ(EnMayusculas(caracter),
+                  DesdeOchoBits(std::string(1, static_cast<char>(mayuscula))));
+        EXPECT_EQ(EnMinusculas(EnMayusculas(caracter)), EnMinusculas(caracter)) << codigo;
+        EXPECT_EQ(EnMayusculas(EnMinusculas(caracter)), EnMayusculas(caracter)) << codigo;
+        pares += mayuscula != c && MinusculaOchoBits(mayuscula) == c ? 1 : 0;
+    }
+    EXPECT_EQ(pares, 26 + 30 + 4) << "a-z, à-þ but ÷, š œ ž ÿ";
+    EXPECT_EQ(EnMayusculas("Válvula de paso ñ, cœur, ÿ €"), "VÁLVULA DE PASO Ñ, CŒUR, Ÿ €");
+    EXPECT_EQ(EnMinusculas("ÁRBOL ŠŸ ß"), "árbol šÿ ß");
+    EXPECT_EQ(EnMayusculas("ω"), "ω") << "a character the 8-bit page lacks stays";
+    EXPECT_NE(EnMayusculas("a"), EnMayusculas("á"));
+    EXPECT_EQ(EnMayusculas("a\xC3"), "A\xC3") << "a broken sequence stays as it is";
 }
 
 } // namespace

@@ -130,18 +130,6 @@ TEST(ReglasInforme, EachRuleGivesItsTextCaseByCase) {
     acta.Comparar("informe/reglas.txt");
 }
 
-TEST(EnMayusculas, AgreesWithTheCodePageOnEveryCharacterAndUndoesLowerCase) {
-    for (int codigo = 1; codigo < 256; ++codigo) {
-        const auto c = static_cast<unsigned char>(codigo);
-        const std::string caracter = DesdeOchoBits(std::string(1, static_cast<char>(c)));
-        EXPECT_EQ(EnMayusculas(caracter),
-                  DesdeOchoBits(std::string(1, static_cast<char>(MayusculaOchoBits(c)))))
-            << codigo;
-        EXPECT_EQ(EnMinusculas(EnMayusculas(caracter)), EnMinusculas(caracter)) << codigo;
-    }
-    EXPECT_EQ(EnMayusculas("camión €"), "CAMIÓN €");
-}
-
 TEST(Informe, LinesTakeTheLevelOfTheLastTextWrittenIntoThem) {
     Informe informe;
     informe.AñadirIcono(IconoInforme::Criterio);
