@@ -25,33 +25,11 @@ namespace vadro {
 
 namespace {
 
-QLabel* Etiqueta(QWidget* padre, const char* nombre, const char* texto) {
-    auto* etiqueta = new QLabel(Q(texto), padre);
-    if (nombre != nullptr) {
-        etiqueta->setObjectName(Q(nombre));
-    }
-    return etiqueta;
-}
-
-QCheckBox* Casilla(QWidget* padre, const char* nombre, const char* texto) {
-    auto* casilla = new QCheckBox(Q(texto), padre);
-    casilla->setObjectName(Q(nombre));
-    return casilla;
-}
-
 QLineEdit* Entrada(QWidget* padre, const char* nombre) {
     auto* entrada = new QLineEdit(padre);
     entrada->setObjectName(Q(nombre));
     entrada->setMinimumWidth(70);
     return entrada;
-}
-
-QGroupBox* Marco(QWidget* padre, const char* nombre, const char* titulo) {
-    auto* marco = new QGroupBox(Q(titulo), padre);
-    if (nombre != nullptr) {
-        marco->setObjectName(Q(nombre));
-    }
-    return marco;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "core/core/sesion.h"
 #include "windows/core/conectar.h"
+#include "windows/core/controles.h"
 #include "windows/core/texto.h"
 #include "windows/functions/arriba_abajo.h"
 #include "windows/functions/pintar_grafica.h"
@@ -15,16 +16,6 @@
 #include <QVBoxLayout>
 
 namespace vadro {
-
-namespace {
-
-QLabel* Etiqueta(QWidget* padre, const char* nombre, const char* texto) {
-    auto* etiqueta = new QLabel(Q(texto), padre);
-    etiqueta->setObjectName(Q(nombre));
-    return etiqueta;
-}
-
-} // namespace
 
 PanelOptativos::PanelOptativos(EditorFuncion& editor, Manejador manejar, QWidget* padre)
     : QWidget(padre), editor_(editor), manejar_(std::move(manejar)) {

@@ -2,6 +2,7 @@
 
 #include "core/core/sesion.h"
 #include "core/reports/comandos_informe.h"
+#include "windows/core/controles.h"
 #include "windows/core/texto.h"
 #include "windows/reports/documento_informe.h"
 
@@ -86,8 +87,7 @@ QTextEdit* frmInforme::Panel(QWidget* padre, const char* nombre) {
 
 QGroupBox* frmInforme::Marco(const char* nombre, const char* titulo, QTextEdit*& panel,
                              const char* rtf) {
-    auto* marco = new QGroupBox(Q(titulo), tspInforme);
-    marco->setObjectName(Q(nombre));
+    QGroupBox* marco = vadro::Marco(tspInforme, nombre, titulo);
     panel = Panel(marco, rtf);
     auto* columna = new QVBoxLayout(marco);
     columna->addWidget(panel);

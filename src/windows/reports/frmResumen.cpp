@@ -2,6 +2,7 @@
 
 #include "core/core/sesion.h"
 #include "core/reports/resumen.h"
+#include "windows/core/controles.h"
 #include "windows/core/texto.h"
 #include "windows/trees/modelo_arbol.h"
 
@@ -16,9 +17,8 @@ namespace vadro {
 
 namespace {
 
-QGroupBox* Marco(QWidget* padre, const char* nombre, const char* titulo) {
-    auto* marco = new QGroupBox(Q(titulo), padre);
-    marco->setObjectName(Q(nombre));
+QGroupBox* MarcoEnColumna(QWidget* padre, const char* nombre, const char* titulo) {
+    QGroupBox* marco = Marco(padre, nombre, titulo);
     new QVBoxLayout(marco);
     return marco;
 }
@@ -29,9 +29,9 @@ frmResumen::frmResumen(QWidget* padre)
     : VentanaHija(Hija::Resumen, "Resumen del proyecto", padre),
       modeloRequerimientos_(std::make_unique<ModeloArbol>(requerimientos_)),
       modeloComponentes_(std::make_unique<ModeloArbol>(componentes_)) {
-    fmeRequerimientos = Marco(this, "fmeRequerimientos", "Arbol de requerimientos");
-    fmeComponentes = Marco(this, "fmeComponentes", "Arbol de componentes");
-    fmeEtapas = Marco(this, "fmeEtapas", "Etapas del ciclo de vida");
+    fmeRequerimientos = MarcoEnColumna(this, "fmeRequerimientos", "Arbol de requerimientos");
+    fmeComponentes = MarcoEnColumna(this, "fmeComponentes", "Arbol de componentes");
+    fmeEtapas = MarcoEnColumna(this, "fmeEtapas", "Etapas del ciclo de vida");
     tvwRequerimientos = Arbol(fmeRequerimientos, "tvwRequerimientos", *modeloRequerimientos_);
     tvwComponentes = Arbol(fmeComponentes, "tvwComponentes", *modeloComponentes_);
     lstEtapas = new QListWidget(fmeEtapas);

@@ -32,18 +32,6 @@ namespace vadro {
 
 namespace {
 
-QLabel* Rotulo(QWidget* padre, const char* nombre, const char* texto) {
-    auto* etiqueta = new QLabel(Q(texto), padre);
-    etiqueta->setObjectName(Q(nombre));
-    return etiqueta;
-}
-
-QRadioButton* Opcion(QWidget* padre, const char* nombre, const char* texto) {
-    auto* opcion = new QRadioButton(Q(texto), padre);
-    opcion->setObjectName(Q(nombre));
-    return opcion;
-}
-
 // The key of the floating input as its table knows it.
 TeclaEntrada ClaseTecla(int tecla, const QString& texto) {
     switch (tecla) {
@@ -88,8 +76,9 @@ frmPesos::frmPesos(const DireccionConjunto& direccion, QWidget* padre)
     metodos->addWidget(optSaaty);
     metodos->addWidget(optDirecto);
     cmdConsistencia = Boton(this, "cmdConsistencia", "Consistencia perfecta");
-    lblConsistencia = Rotulo(this, "lblConsistencia", "Indice de consistencia...................");
-    lblCR = Rotulo(this, "lblCR", "");
+    lblConsistencia =
+        Etiqueta(this, "lblConsistencia", "Indice de consistencia...................");
+    lblCR = Etiqueta(this, "lblCR", "");
     lblCR->setAlignment(Qt::AlignCenter);
     lblCR->setMinimumWidth(80);
     lblCR->setFrameShape(QFrame::Panel);
