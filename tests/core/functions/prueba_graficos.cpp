@@ -83,7 +83,10 @@ TEST(Graficar, TheFramesAndCaptionsFollowTheReferenceTexts) {
         CurvaEditor curva;
         Grafica g;
         EntradaGrafica entrada = Continua(caso.campos.at(1), caso.campos.at(2));
-        entrada.AjustarMinRef = entrada.AjustarMaxRef = caso.campos.size() > 3;
+        // "adjusted" adjusts both ends, "min-adjusted" or "max-adjusted" one.
+        const std::string ajuste = caso.campos.size() > 3 ? caso.campos[3] : "";
+        entrada.AjustarMinRef = !ajuste.empty() && ajuste != "max-adjusted";
+        entrada.AjustarMaxRef = !ajuste.empty() && ajuste != "min-adjusted";
         const ResultadoGrafica r = Graficar(entrada, curva, g);
         std::ostringstream marco;
         marco << r.Marco.Inferior << " " << r.Marco.Superior;
