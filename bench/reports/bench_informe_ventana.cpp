@@ -9,14 +9,12 @@
 #include "windows/reports/impresion.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QApplication>
 #include <QTextDocument>
 #include <QTextEdit>
 
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 
 namespace vadro {
@@ -64,14 +62,3 @@ BENCHMARK(BM_PdfInforme)->Arg(500)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vadro
-
-int main(int argc, char** argv) {
-    if (std::getenv("QT_QPA_PLATFORM") == nullptr) {
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    }
-    QApplication aplicacion(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

@@ -191,12 +191,3 @@ BENCHMARK(BM_VentanaAbrir16000)->Iterations(5)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vadro
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication aplicacion(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

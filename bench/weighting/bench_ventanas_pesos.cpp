@@ -9,8 +9,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
-
 namespace vadro {
 namespace {
 
@@ -61,14 +59,3 @@ BENCHMARK(BM_ConfirmarMatriz16)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 } // namespace vadro
-
-int main(int argc, char** argv) {
-    if (std::getenv("QT_QPA_PLATFORM") == nullptr) {
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    }
-    QApplication aplicacion(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
